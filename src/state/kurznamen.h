@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace kalimbo {
+
+// Readable, unique short names of at most four characters for the given team names, in the
+// same order: normally the first three letters of the first distinctive word ("Werder Bremen"
+// -> "WER"); teams that would share one take two letters of it plus the initial of their next
+// distinctive word ("Manchester City" -> "MAC"), then a distinguishing fourth letter, then a digit.
+std::vector<std::string> kurznamen(const std::vector<std::string>& namen);
+
+}  // namespace kalimbo

@@ -1,0 +1,176 @@
+#include "spieldatei.h"
+
+#include <fstream>
+#include <iterator>
+#include <sstream>
+
+#include "cp1252.h"
+#include "dateischreiben.h"
+
+namespace kalimbo {
+
+namespace {
+
+// Visits every field in file order. `D` is Dateiinhalt or const Dateiinhalt, `V` the reader or
+// the writer; both see exactly the same sequence, so the layout is defined in this one place.
+template <class D, class V>
+void besucheFelder(D& d, V& v) {
+    for (auto& s : d.Teamname) v.text(s);
+    for (auto& s : d.TeamnameKurz) v.text(s);
+    for (auto& s : d.Spielername) v.text(s);
+    for (int seite = 0; seite < 2; ++seite)
+        for (int spiel = 0; spiel < MaxSpiele; ++spiel)
+            for (int tag = 0; tag < MaxSpieltage; ++tag) v.zahl(d.Paarung[tag][spiel][seite]);
+    v.zahl(d.AnzSpieltage);
+    v.zahl(d.AnzSpiele);
+    v.zahl(d.AnzTippfelder);
+    v.zahl(d.AnzTeams);  // stored before AnzSpieler
+    v.zahl(d.AnzSpieler);
+    for (auto& f : d.TabFarbe) v.farbe(f);
+    for (int seite = 0; seite < 2; ++seite)
+        for (int spiel = 0; spiel < MaxSpiele; ++spiel)
+            for (int tag = 0; tag < MaxSpieltage; ++tag) v.zahl(d.ErgebnisDatei[tag][spiel][seite]);
+    for (int seite = 0; seite < 2; ++seite)
+        for (int spiel = 0; spiel < MaxSpiele; ++spiel)
+            for (int tag = 0; tag < MaxSpieltage; ++tag)
+                for (int spieler = 0; spieler < MaxSpieler; ++spieler)
+                    v.zahl(d.TippDatei[spieler][tag][spiel][seite]);
+    for (auto& z : d.SptgAuswerten) v.zahl(z);
+    v.zahl(d.AktSpieltagGlobal);
+    for (auto& z : d.SonntagSpiele) v.zahl(z);
+    for (auto& z : d.Teilnehmer) v.zahl(z);
+    for (auto& f : d.Spielerfarbe) v.farbe(f);
+    for (auto& s : d.LigaInfo) v.text(s);
+    v.zahl(d.Modus);
+    for (auto& z : d.ModusPunkte) v.zahl(z);
+    for (auto& f : d.ModusFarbe) v.farbe(f);
+    for (auto& t : d.Trainerwechsel) {
+        v.zahl(t.Aktiv);
+        v.text(t.Name);
+        v.zahl(t.VonSpieltag);
+        v.zahl(t.BisSpieltag);
+    }
+}
+
+// What is wrong with a file, as the end of the sentence "… ist beschädigt oder keine
+// Tippspiel-Datei: …".
+struct Schaden {
+    std::string grund;
+};
+
+class Leser {
+public:
+    explicit Leser(std::string_view daten) : m_daten(daten) {}
+
+    void zahl(i16& z) { z = static_cast<i16>(static_cast<std::uint16_t>(bytes(2))); }
+    void farbe(Farbe& f) { f = static_cast<Farbe>(static_cast<std::uint32_t>(bytes(4))); }
+    void text(std::string& s) {
+        i16 laenge = 0;
+        zahl(laenge);
+        if (laenge < 0) throw Schaden{"ein Text hat die negative Länge " + std::to_string(laenge) + "."};
+        pruefeRest(static_cast<std::size_t>(laenge));
+        s = vonCp1252(m_daten.substr(m_pos, static_cast<std::size_t>(laenge)));
+        m_pos += static_cast<std::size_t>(laenge);
+    }
+
+private:
+    void pruefeRest(std::size_t anzahl) const {
+        if (m_daten.size() - m_pos < anzahl) throw Schaden{"sie endet vor dem Ende der Spieldaten."};
+    }
+    // Little-endian unsigned value of the next `anzahl` bytes.
+    std::uint32_t bytes(std::size_t anzahl) {
+        pruefeRest(anzahl);
+        std::uint32_t wert = 0;
+        for (std::size_t i = 0; i < anzahl; ++i)
+            wert |= std::uint32_t{static_cast<unsigned char>(m_daten[m_pos + i])} << (8 * i);
+        m_pos += anzahl;
+        return wert;
+    }
+
+    std::string_view m_daten;
+    std::size_t m_pos = 0;
+};
+
+class Schreiber {
+public:
+    void zahl(i16 z) { bytes(static_cast<std::uint16_t>(z), 2); }
+    void farbe(Farbe f) { bytes(static_cast<std::uint32_t>(f), 4); }
+    void text(const std::string& s) {
+        const std::string kodiert = nachCp1252(s);
+        if (kodiert.size() > 32767)
+            throw Dateifehler("Der Text „" + s.substr(0, 40) + "…“ ist zu lang für eine Tippspiel-Datei.");
+        zahl(static_cast<i16>(kodiert.size()));
+        m_bytes += kodiert;
+    }
+    std::string& ergebnis() { return m_bytes; }
+
+private:
+    void bytes(std::uint32_t wert, std::size_t anzahl) {
+        for (std::size_t i = 0; i < anzahl; ++i) m_bytes += static_cast<char>((wert >> (8 * i)) & 0xFF);
+    }
+
+    std::string m_bytes;
+};
+
+void pruefeBereich(i16 wert, i16 hoechster, const char* was) {
+    if (wert < 0 || wert > hoechster) {
+        throw Schaden{"der höchste Index der " + std::string(was) + " ist " + std::to_string(wert) +
+                      " (erlaubt sind 0 bis " + std::to_string(hoechster) + ")."};
+    }
+}
+
+// Refuses values that the windows would later use as indices outside the fixed limits.
+void pruefeGrenzen(const Dateiinhalt& d) {
+    pruefeBereich(d.AnzTeams, MaxTeams - 1, "Mannschaften");
+    pruefeBereich(d.AnzSpieltage, MaxSpieltage - 1, "Spieltage");
+    pruefeBereich(d.AnzSpiele, MaxSpiele - 1, "Spiele");
+    pruefeBereich(d.AnzSpieler, MaxSpieler - 1, "Spieler");
+    for (int tag = 0; tag <= d.AnzSpieltage; ++tag)
+        for (int spiel = 0; spiel <= d.AnzSpiele; ++spiel)
+            for (int seite = 0; seite < 2; ++seite) {
+                const i16 team = d.Paarung[tag][spiel][seite];
+                if (team < 0 || team >= MaxTeams) {
+                    throw Schaden{"Spiel " + std::to_string(spiel + 1) + " des " + std::to_string(tag + 1) +
+                                  ". Spieltags nennt die Mannschaft " + std::to_string(team) +
+                                  " (erlaubt sind 0 bis 19)."};
+                }
+            }
+}
+
+}  // namespace
+
+Dateiinhalt leseSpieldatei(std::istream& ein, const std::string& name) {
+    const std::string daten{std::istreambuf_iterator<char>(ein), std::istreambuf_iterator<char>()};
+    if (ein.bad()) throw Dateifehler("Die Datei „" + name + "“ konnte nicht gelesen werden.");
+    Dateiinhalt inhalt;
+    try {
+        Leser leser(daten);
+        besucheFelder(inhalt, leser);
+        pruefeGrenzen(inhalt);
+    } catch (const Schaden& s) {
+        throw Dateifehler("Die Datei „" + name + "“ ist beschädigt oder keine Tippspiel-Datei: " + s.grund);
+    }
+    return inhalt;
+}
+
+Dateiinhalt ladeSpieldatei(const std::filesystem::path& pfad) {
+    std::error_code ec;
+    std::ifstream ein(pfad, std::ios::binary);
+    if (!ein || std::filesystem::is_directory(pfad, ec)) {
+        throw Dateifehler("Die Datei „" + pfad.string() +
+                          "“ konnte nicht geöffnet werden: Sie existiert nicht oder ist nicht lesbar.");
+    }
+    return leseSpieldatei(ein, pfad.string());
+}
+
+std::string kodiereSpieldatei(const Dateiinhalt& inhalt) {
+    Schreiber schreiber;
+    besucheFelder(inhalt, schreiber);
+    return std::move(schreiber.ergebnis());
+}
+
+void speichereSpieldatei(const std::filesystem::path& pfad, const Dateiinhalt& inhalt) {
+    schreibeDateiAtomar(pfad, kodiereSpieldatei(inhalt));
+}
+
+}  // namespace kalimbo
