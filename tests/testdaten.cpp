@@ -11,7 +11,9 @@ namespace kalimbo::test {
 
 namespace fs = std::filesystem;
 
-fs::path gemeinsameDaten(const std::string& datei) { return fs::path(KALIMBO_SHARED_DATA) / datei; }
+fs::path gemeinsameDaten(const std::string& datei) {
+    return fs::path(KALIMBO_SHARED_DATA) / datei;
+}
 
 Dateiinhalt saison(const std::string& name) {
     std::ifstream ein(gemeinsameDaten(name + ".matches.csv"));

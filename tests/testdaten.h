@@ -19,7 +19,7 @@ void schreibeBytes(const std::filesystem::path& pfad, const std::string& bytes);
 
 // A fresh folder under the system's temporary folder, removed with everything in it.
 class TempOrdner {
-public:
+  public:
     TempOrdner();
     ~TempOrdner();
     TempOrdner(const TempOrdner&) = delete;
@@ -27,7 +27,7 @@ public:
     const std::filesystem::path& pfad() const { return m_pfad; }
     std::filesystem::path operator/(const std::string& name) const { return m_pfad / name; }
 
-private:
+  private:
     std::filesystem::path m_pfad;
 };
 

@@ -14,7 +14,8 @@ std::string auswahlText(const Spielstand& spiel) {
     for (int tag = 0; tag <= spiel.AnzSpieltage; ++tag) {
         if (spiel.SptgAuswerten[tag] != 1) continue;
         int ende = tag;
-        while (ende < spiel.AnzSpieltage && spiel.SptgAuswerten[ende + 1] == 1) ++ende;
+        while (ende < spiel.AnzSpieltage && spiel.SptgAuswerten[ende + 1] == 1)
+            ++ende;
         if (!text.empty()) text += ", ";
         text += std::to_string(tag + 1);
         if (ende > tag) text += "-" + std::to_string(ende + 1);

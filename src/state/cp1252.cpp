@@ -12,10 +12,10 @@ namespace kalimbo {
 namespace {
 
 // Unicode code points of the bytes 0x80..0x9F; the undefined ones keep their own number.
-constexpr std::array<char32_t, 32> Bereich80{
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+constexpr std::array<char32_t, 32> Bereich80{0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                             0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                             0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                             0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
 std::optional<unsigned char> zeichenNachCp1252(char32_t c) {
     if (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) return static_cast<unsigned char>(c);
@@ -28,7 +28,8 @@ std::optional<unsigned char> zeichenNachCp1252(char32_t c) {
 std::string zeichenBeschreibung(char32_t c, std::string_view roh) {
     static const char* hex = "0123456789ABCDEF";
     std::string code = "U+";
-    for (int shift = (c > 0xFFFF ? 20 : 12); shift >= 0; shift -= 4) code += hex[(c >> shift) & 0xF];
+    for (int shift = (c > 0xFFFF ? 20 : 12); shift >= 0; shift -= 4)
+        code += hex[(c >> shift) & 0xF];
     return "„" + std::string(roh) + "“ (" + code + ")";
 }
 

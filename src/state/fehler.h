@@ -9,20 +9,20 @@ namespace kalimbo {
 // a division by zero. Carries the classic error number and its German text; the windows show
 // both at the event boundary and keep running.
 class Laufzeitfehler : public std::runtime_error {
-public:
+  public:
     enum Code : int { Ueberlauf = 6, Index = 9, DivisionDurchNull = 11 };
 
     explicit Laufzeitfehler(Code code);
     Code code() const { return m_code; }
 
-private:
+  private:
     Code m_code;
 };
 
 // A file that cannot be read as a game, or cannot be written. The message is complete German
 // text naming the file and what is wrong; nothing in memory or on disk has been changed.
 class Dateifehler : public std::runtime_error {
-public:
+  public:
     explicit Dateifehler(const std::string& meldung) : std::runtime_error(meldung) {}
 };
 

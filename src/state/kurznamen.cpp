@@ -26,14 +26,18 @@ Zeichen dekodiere(const std::string& utf8) {
 
 std::string kodiere(const Zeichen& z) {
     std::string s;
-    for (char32_t c : z) haengeUtf8An(s, c);
+    for (char32_t c : z)
+        haengeUtf8An(s, c);
     return s;
 }
 
 bool istBuchstabe(char32_t c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= 0xC0 && c <= 0xFF && c != 0xD7 && c != 0xF7);
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') ||
+           (c >= 0xC0 && c <= 0xFF && c != 0xD7 && c != 0xF7);
 }
-bool istGross(char32_t c) { return (c >= 'A' && c <= 'Z') || (c >= 0xC0 && c <= 0xDE && c != 0xD7); }
+bool istGross(char32_t c) {
+    return (c >= 'A' && c <= 'Z') || (c >= 0xC0 && c <= 0xDE && c != 0xD7);
+}
 char32_t gross(char32_t c) {
     if ((c >= 'a' && c <= 'z') || (c >= 0xE0 && c <= 0xFE && c != 0xF7)) return c - 0x20;
     return c;
@@ -58,7 +62,8 @@ std::vector<Zeichen> kennwoerter(const std::string& name) {
         Zeichen alle;
         for (char32_t c : dekodiere(name))
             if (istBuchstabe(c)) alle += gross(c);
-        while (alle.size() < 3) alle += 'X';
+        while (alle.size() < 3)
+            alle += 'X';
         woerter.push_back(alle);
     }
     return woerter;
@@ -68,7 +73,8 @@ std::vector<Zeichen> kennwoerter(const std::string& name) {
 template <class F>
 std::map<Zeichen, std::vector<std::size_t>> gruppen(std::size_t anzahl, F kandidat) {
     std::map<Zeichen, std::vector<std::size_t>> g;
-    for (std::size_t i = 0; i < anzahl; ++i) g[kandidat(i)].push_back(i);
+    for (std::size_t i = 0; i < anzahl; ++i)
+        g[kandidat(i)].push_back(i);
     return g;
 }
 
@@ -76,15 +82,18 @@ std::map<Zeichen, std::vector<std::size_t>> gruppen(std::size_t anzahl, F kandid
 
 std::vector<std::string> kurznamen(const std::vector<std::string>& namen) {
     std::vector<std::vector<Zeichen>> woerter;
-    for (const auto& n : namen) woerter.push_back(kennwoerter(n));
+    for (const auto& n : namen)
+        woerter.push_back(kennwoerter(n));
     std::vector<Zeichen> kurz;
-    for (const auto& w : woerter) kurz.push_back(w[0].substr(0, 3));
+    for (const auto& w : woerter)
+        kurz.push_back(w[0].substr(0, 3));
 
     // Each step rewrites only the names that still collide, using more of the team's name.
     auto entzerre = [&](auto schritt) {
         for (auto& [k, teams] : gruppen(kurz.size(), [&](std::size_t i) { return kurz[i]; })) {
             if (teams.size() > 1)
-                for (std::size_t i : teams) kurz[i] = schritt(i, teams);
+                for (std::size_t i : teams)
+                    kurz[i] = schritt(i, teams);
         }
     };
     entzerre([&](std::size_t i, const std::vector<std::size_t>&) {
@@ -107,7 +116,8 @@ std::vector<std::string> kurznamen(const std::vector<std::string>& namen) {
     });
 
     std::vector<std::string> ergebnis;
-    for (const auto& k : kurz) ergebnis.push_back(kodiere(k));
+    for (const auto& k : kurz)
+        ergebnis.push_back(kodiere(k));
     return ergebnis;
 }
 

@@ -15,7 +15,7 @@ namespace kalimbo {
 namespace {
 
 struct Zeile {
-    int nummer = 0;  // line number in the file, 1-based
+    int nummer = 0;    // line number in the file, 1-based
     int spieltag = 0;  // 1-based as in the file
     std::string heim, gast;
     std::optional<std::pair<i16, i16>> tore;
@@ -61,10 +61,12 @@ std::optional<int> ganzzahl(const std::string& s) {
 Zeile leseZeile(const std::string& text, int nummer) {
     auto f = felder(text);
     if (f.size() != 5) {
-        fehlerInZeile(nummer, "Es werden 5 Felder erwartet (matchday,home,away,home_goals,away_goals), gefunden " +
-                                  std::to_string(f.size()) + ".");
+        fehlerInZeile(nummer,
+                      "Es werden 5 Felder erwartet (matchday,home,away,home_goals,away_goals), gefunden " +
+                          std::to_string(f.size()) + ".");
     }
-    for (auto& feld : f) feld = ohneRand(feld);
+    for (auto& feld : f)
+        feld = ohneRand(feld);
     Zeile z{nummer, 0, f[1], f[2], std::nullopt};
     const auto tag = ganzzahl(f[0]);
     if (!tag || *tag < 1) fehlerInZeile(nummer, "„" + f[0] + "“ ist keine gültige Spieltagsnummer.");
@@ -110,7 +112,9 @@ std::vector<std::string> teamsDerSaison(const std::vector<Zeile>& zeilen) {
         for (const auto* name : {&z.heim, &z.gast}) {
             if (std::find(teams.begin(), teams.end(), *name) != teams.end()) continue;
             if (teams.size() == MaxTeams)
-                fehlerInZeile(z.nummer, "„" + *name + "“ ist die 21. Mannschaft; eine Tippspiel-Datei fasst höchstens 20.");
+                fehlerInZeile(
+                    z.nummer,
+                    "„" + *name + "“ ist die 21. Mannschaft; eine Tippspiel-Datei fasst höchstens 20.");
             teams.push_back(*name);
         }
     }
@@ -130,7 +134,8 @@ Feld<Farbe, MaxTeams> tabellenfarben(int anzahlTeams) {
     farben[1] = farben[2] = rgb(245, 183, 35);
     farben[3] = rgb(255, 204, 51);
     farben[4] = farben[5] = rgb(255, 255, 0);
-    for (int p = anzahlTeams - 3; p < anzahlTeams; ++p) farben[p] = rgb(255, 255, 255);
+    for (int p = anzahlTeams - 3; p < anzahlTeams; ++p)
+        farben[p] = rgb(255, 255, 255);
     return farben;
 }
 
@@ -162,8 +167,8 @@ Dateiinhalt importiereSaison(std::istream& csv, const std::string& ligaInfo) {
                                             ". Spieltag zum zweiten Mal.");
         }
         if (const auto [it, neu] = paarungZeile.emplace(std::pair{heim, gast}, z.nummer); !neu) {
-            fehlerInZeile(z.nummer, "Das Spiel „" + z.heim + "“ gegen „" + z.gast + "“ steht schon in Zeile " +
-                                        std::to_string(it->second) + ".");
+            fehlerInZeile(z.nummer, "Das Spiel „" + z.heim + "“ gegen „" + z.gast +
+                                        "“ steht schon in Zeile " + std::to_string(it->second) + ".");
         }
         const int spiel = static_cast<int>(teamsAmTag[tag].size()) / 2 - 1;
         d.Paarung[tag][spiel] = {{heim, gast}};
@@ -172,8 +177,8 @@ Dateiinhalt importiereSaison(std::istream& csv, const std::string& ligaInfo) {
     for (int tag = 0; tag < spieltage; ++tag) {
         const int spiele = static_cast<int>(teamsAmTag[tag].size()) / 2;
         if (spiele != spieleJeTag) {
-            throw Dateifehler("Am " + std::to_string(tag + 1) + ". Spieltag stehen " + std::to_string(spiele) +
-                              " Spiele statt " + std::to_string(spieleJeTag) + ".");
+            throw Dateifehler("Am " + std::to_string(tag + 1) + ". Spieltag stehen " +
+                              std::to_string(spiele) + " Spiele statt " + std::to_string(spieleJeTag) + ".");
         }
     }
 

@@ -15,35 +15,48 @@ namespace {
 // the writer; both see exactly the same sequence, so the layout is defined in this one place.
 template <class D, class V>
 void besucheFelder(D& d, V& v) {
-    for (auto& s : d.Teamname) v.text(s);
-    for (auto& s : d.TeamnameKurz) v.text(s);
-    for (auto& s : d.Spielername) v.text(s);
+    for (auto& s : d.Teamname)
+        v.text(s);
+    for (auto& s : d.TeamnameKurz)
+        v.text(s);
+    for (auto& s : d.Spielername)
+        v.text(s);
     for (int seite = 0; seite < 2; ++seite)
         for (int spiel = 0; spiel < MaxSpiele; ++spiel)
-            for (int tag = 0; tag < MaxSpieltage; ++tag) v.zahl(d.Paarung[tag][spiel][seite]);
+            for (int tag = 0; tag < MaxSpieltage; ++tag)
+                v.zahl(d.Paarung[tag][spiel][seite]);
     v.zahl(d.AnzSpieltage);
     v.zahl(d.AnzSpiele);
     v.zahl(d.AnzTippfelder);
     v.zahl(d.AnzTeams);  // stored before AnzSpieler
     v.zahl(d.AnzSpieler);
-    for (auto& f : d.TabFarbe) v.farbe(f);
+    for (auto& f : d.TabFarbe)
+        v.farbe(f);
     for (int seite = 0; seite < 2; ++seite)
         for (int spiel = 0; spiel < MaxSpiele; ++spiel)
-            for (int tag = 0; tag < MaxSpieltage; ++tag) v.zahl(d.ErgebnisDatei[tag][spiel][seite]);
+            for (int tag = 0; tag < MaxSpieltage; ++tag)
+                v.zahl(d.ErgebnisDatei[tag][spiel][seite]);
     for (int seite = 0; seite < 2; ++seite)
         for (int spiel = 0; spiel < MaxSpiele; ++spiel)
             for (int tag = 0; tag < MaxSpieltage; ++tag)
                 for (int spieler = 0; spieler < MaxSpieler; ++spieler)
                     v.zahl(d.TippDatei[spieler][tag][spiel][seite]);
-    for (auto& z : d.SptgAuswerten) v.zahl(z);
+    for (auto& z : d.SptgAuswerten)
+        v.zahl(z);
     v.zahl(d.AktSpieltagGlobal);
-    for (auto& z : d.SonntagSpiele) v.zahl(z);
-    for (auto& z : d.Teilnehmer) v.zahl(z);
-    for (auto& f : d.Spielerfarbe) v.farbe(f);
-    for (auto& s : d.LigaInfo) v.text(s);
+    for (auto& z : d.SonntagSpiele)
+        v.zahl(z);
+    for (auto& z : d.Teilnehmer)
+        v.zahl(z);
+    for (auto& f : d.Spielerfarbe)
+        v.farbe(f);
+    for (auto& s : d.LigaInfo)
+        v.text(s);
     v.zahl(d.Modus);
-    for (auto& z : d.ModusPunkte) v.zahl(z);
-    for (auto& f : d.ModusFarbe) v.farbe(f);
+    for (auto& z : d.ModusPunkte)
+        v.zahl(z);
+    for (auto& f : d.ModusFarbe)
+        v.farbe(f);
     for (auto& t : d.Trainerwechsel) {
         v.zahl(t.Aktiv);
         v.text(t.Name);
@@ -59,7 +72,7 @@ struct Schaden {
 };
 
 class Leser {
-public:
+  public:
     explicit Leser(std::string_view daten) : m_daten(daten) {}
 
     void zahl(i16& z) { z = static_cast<i16>(static_cast<std::uint16_t>(bytes(2))); }
@@ -73,7 +86,7 @@ public:
         m_pos += static_cast<std::size_t>(laenge);
     }
 
-private:
+  private:
     void pruefeRest(std::size_t anzahl) const {
         if (m_daten.size() - m_pos < anzahl) throw Schaden{"sie endet vor dem Ende der Spieldaten."};
     }
@@ -92,7 +105,7 @@ private:
 };
 
 class Schreiber {
-public:
+  public:
     void zahl(i16 z) { bytes(static_cast<std::uint16_t>(z), 2); }
     void farbe(Farbe f) { bytes(static_cast<std::uint32_t>(f), 4); }
     void text(const std::string& s) {
@@ -104,9 +117,10 @@ public:
     }
     std::string& ergebnis() { return m_bytes; }
 
-private:
+  private:
     void bytes(std::uint32_t wert, std::size_t anzahl) {
-        for (std::size_t i = 0; i < anzahl; ++i) m_bytes += static_cast<char>((wert >> (8 * i)) & 0xFF);
+        for (std::size_t i = 0; i < anzahl; ++i)
+            m_bytes += static_cast<char>((wert >> (8 * i)) & 0xFF);
     }
 
     std::string m_bytes;

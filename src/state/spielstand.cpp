@@ -7,15 +7,20 @@ SpielerAuswertung SpielerAuswertung::leer(int slot) {
     a.Sortierplatz = a.Platz = static_cast<i16>(slot);
     a.SptgSortierplatz.fuelle(static_cast<i16>(slot));
     a.SptgPlatz.fuelle(static_cast<i16>(slot));
-    for (int t = 0; t < MaxTeams; ++t) a.TeamSortierung[t] = static_cast<i16>(t);
-    for (auto& spieltag : a.SpielFarbe) spieltag.fuelle(Weiss);
-    for (auto& spieltag : a.Korrekt) spieltag.fuelle(-1);
+    for (int t = 0; t < MaxTeams; ++t)
+        a.TeamSortierung[t] = static_cast<i16>(t);
+    for (auto& spieltag : a.SpielFarbe)
+        spieltag.fuelle(Weiss);
+    for (auto& spieltag : a.Korrekt)
+        spieltag.fuelle(-1);
     return a;
 }
 
 Spielstand::Spielstand() {
-    for (int t = 0; t < Tabelle.groesse(); ++t) Tabelle[t].Tabellenplatz = static_cast<i16>(t);
-    for (int p = 0; p < MaxSpieler; ++p) Auswertung[p] = SpielerAuswertung::leer(p);
+    for (int t = 0; t < Tabelle.groesse(); ++t)
+        Tabelle[t].Tabellenplatz = static_cast<i16>(t);
+    for (int p = 0; p < MaxSpieler; ++p)
+        Auswertung[p] = SpielerAuswertung::leer(p);
 }
 
 void Spielstand::oeffne(const Dateiinhalt& inhalt) {

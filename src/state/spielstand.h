@@ -22,7 +22,7 @@ constexpr Farbe Weiss = rgb(255, 255, 255);
 constexpr Farbe Schaltflaechenfarbe = static_cast<Farbe>(0x8000000Fu);
 
 using Ergebnisse = Feld<Feld<Feld<i16, 2>, MaxSpiele>, MaxSpieltage>;  // matchday, match, side
-using Tipps = Feld<Ergebnisse, MaxSpieler>;                             // player, matchday, match, side
+using Tipps = Feld<Ergebnisse, MaxSpieler>;                            // player, matchday, match, side
 
 // One coach-change period.
 struct Trainerdaten {
@@ -53,8 +53,8 @@ struct Dateiinhalt {
     Feld<i16, 2> SonntagSpiele;  // match indices of the Sunday matches of the current matchday
     Feld<i16, MaxSpieler> Teilnehmer{{1, 1, 1, 1, 1, 1, 1, 1, 1}};
     Feld<Farbe, MaxSpieler> Spielerfarbe{{rgb(0, 0, 0), rgb(253, 0, 230), rgb(0, 128, 0), rgb(153, 102, 51),
-                                          rgb(0, 0, 179), rgb(255, 128, 0), rgb(22, 220, 131), rgb(179, 0, 255),
-                                          rgb(204, 204, 255)}};
+                                          rgb(0, 0, 179), rgb(255, 128, 0), rgb(22, 220, 131),
+                                          rgb(179, 0, 255), rgb(204, 204, 255)}};
     Feld<std::string, 2> LigaInfo;
     // A new game starts on the 3-2-1 rule: its points and colours are the defaults below.
     i16 Modus = 2;
@@ -73,7 +73,7 @@ struct SpielerAuswertung {
     Feld<i16, MaxSpieltage> SptgPlatz;
     i16 GesamtPunkte = 0;
     Feld<i16, MaxSpieltage> SpieltagPunkte;
-    Feld<i16, 3> PunkteNachArt;      // points through fully correct, margin, tendency hits
+    Feld<i16, 3> PunkteNachArt;           // points through fully correct, margin, tendency hits
     Feld<i16, MaxSpieler> Platzierungen;  // counted matchdays finished on place 0..8
     Feld<i16, MaxTeams> TeamPunkte;
     Feld<i16, MaxTeams> TeamPunkteKorrekt;
@@ -109,12 +109,12 @@ using TabInfo = std::variant<std::monostate, i16, std::string>;
 
 // Where HoleSpielerDaten takes the player data from (the player settings window).
 class SpielerDatenQuelle {
-public:
+  public:
     virtual std::string getSpielerName(int spieler) const = 0;
     virtual Farbe getSpielerFarbe(int spieler) const = 0;
     virtual i16 getTeilnehmer(int spieler) const = 0;
 
-protected:
+  protected:
     ~SpielerDatenQuelle() = default;
 };
 

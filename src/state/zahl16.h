@@ -10,7 +10,9 @@ using i16 = std::int16_t;
 // Colours are 32-bit values with red in the low byte (0x00BBGGRR).
 using Farbe = std::int32_t;
 
-constexpr Farbe rgb(int rot, int gruen, int blau) { return rot | (gruen << 8) | (blau << 16); }
+constexpr Farbe rgb(int rot, int gruen, int blau) {
+    return rot | (gruen << 8) | (blau << 16);
+}
 
 // Narrows a wider value to 16 bits; throws Laufzeitfehler::Ueberlauf outside -32768..32767.
 // Every arithmetic step on the game's 16-bit figures goes through here.
@@ -19,11 +21,19 @@ constexpr i16 auf16(std::int64_t wert) {
     return static_cast<i16>(wert);
 }
 
-constexpr i16 plus16(i16 a, i16 b) { return auf16(std::int64_t{a} + b); }
-constexpr i16 minus16(i16 a, i16 b) { return auf16(std::int64_t{a} - b); }
-constexpr i16 mal16(i16 a, i16 b) { return auf16(std::int64_t{a} * b); }
+constexpr i16 plus16(i16 a, i16 b) {
+    return auf16(std::int64_t{a} + b);
+}
+constexpr i16 minus16(i16 a, i16 b) {
+    return auf16(std::int64_t{a} - b);
+}
+constexpr i16 mal16(i16 a, i16 b) {
+    return auf16(std::int64_t{a} * b);
+}
 
 // ziel += wert, overflow-checked.
-constexpr void addiere(i16& ziel, i16 wert) { ziel = plus16(ziel, wert); }
+constexpr void addiere(i16& ziel, i16 wert) {
+    ziel = plus16(ziel, wert);
+}
 
 }  // namespace kalimbo

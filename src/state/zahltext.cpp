@@ -9,12 +9,15 @@ namespace kalimbo {
 
 namespace {
 
-bool istZiffer(char c) { return c >= '0' && c <= '9'; }
+bool istZiffer(char c) {
+    return c >= '0' && c <= '9';
+}
 
 // Copies the digits starting at pos into ziel; returns how many there were.
 std::size_t ziffern(std::string_view text, std::size_t& pos, std::string& ziel) {
     const std::size_t start = pos;
-    while (pos < text.size() && istZiffer(text[pos])) ziel += text[pos++];
+    while (pos < text.size() && istZiffer(text[pos]))
+        ziel += text[pos++];
     return pos - start;
 }
 
@@ -22,7 +25,8 @@ std::size_t ziffern(std::string_view text, std::size_t& pos, std::string& ziel) 
 // std::from_chars; empty when there is none.
 std::string zahlPraefix(std::string_view text) {
     std::size_t pos = 0;
-    while (pos < text.size() && (text[pos] == ' ' || text[pos] == '\t' || text[pos] == '\r' || text[pos] == '\n'))
+    while (pos < text.size() &&
+           (text[pos] == ' ' || text[pos] == '\t' || text[pos] == '\r' || text[pos] == '\n'))
         ++pos;
     std::string zahl;
     if (pos < text.size() && (text[pos] == '+' || text[pos] == '-')) {

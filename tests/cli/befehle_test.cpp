@@ -54,9 +54,13 @@ TEST(Cli, FehlerUndFalscherAufruf) {
     EXPECT_NE(kaputt.fehler.find("Zeile 2: „A“ kann nicht gegen sich selbst spielen."), std::string::npos);
     EXPECT_FALSE(std::filesystem::exists(ordner / "x.tip"));
 
-    for (const std::vector<std::string>& aufruf : std::vector<std::vector<std::string>>{
-             {}, {"hilfe"}, {"info"}, {"info", "a.tip", "b.tip"}, {"neu", "a.csv", "b.tip", "--farbe", "rot"},
-             {"neu", "a.csv", "b.tip", "--liga"}}) {
+    for (const std::vector<std::string>& aufruf :
+         std::vector<std::vector<std::string>>{{},
+                                               {"hilfe"},
+                                               {"info"},
+                                               {"info", "a.tip", "b.tip"},
+                                               {"neu", "a.csv", "b.tip", "--farbe", "rot"},
+                                               {"neu", "a.csv", "b.tip", "--liga"}}) {
         const Lauf l = starte(aufruf);
         EXPECT_EQ(l.code, 2);
         EXPECT_NE(l.fehler.find("Aufruf: kalimbo-cli"), std::string::npos);

@@ -18,7 +18,8 @@ TEST(Cp1252, UmlauteUndSonderzeichen) {
 
 TEST(Cp1252, AlleBytesUeberstehenHinUndZurueck) {
     std::string alle;
-    for (int b = 0; b < 256; ++b) alle += static_cast<char>(b);
+    for (int b = 0; b < 256; ++b)
+        alle += static_cast<char>(b);
     EXPECT_EQ(nachCp1252(vonCp1252(alle)), alle);
 }
 

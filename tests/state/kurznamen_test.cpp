@@ -24,11 +24,19 @@ TEST(Kurznamen, EchteSaisonsErhaltenEindeutigeLesbareNamen) {
 }
 
 TEST(Kurznamen, AbkuerzungenUndGleicheAnfaenge) {
-    const std::vector<std::string> namen{"Bayern München", "Bayer 04 Leverkusen", "Bor. Mönchengladbach",
-                                         "VfB Stuttgart",  "Hamburger SV",        "Manchester United",
-                                         "Manchester City", "Blackburn",          "Blackpool",
-                                         "FC",             "AAA",                 "AAA"};
-    const std::vector<std::string> erwartet{"BAM", "BAL", "MÖN", "STU",  "HAM",  "MAU",
+    const std::vector<std::string> namen{"Bayern München",
+                                         "Bayer 04 Leverkusen",
+                                         "Bor. Mönchengladbach",
+                                         "VfB Stuttgart",
+                                         "Hamburger SV",
+                                         "Manchester United",
+                                         "Manchester City",
+                                         "Blackburn",
+                                         "Blackpool",
+                                         "FC",
+                                         "AAA",
+                                         "AAA"};
+    const std::vector<std::string> erwartet{"BAM", "BAL",  "MÖN",  "STU", "HAM",  "MAU",
                                             "MAC", "BLAB", "BLAP", "FCX", "AAA1", "AAA2"};
     EXPECT_EQ(kurznamen(namen), erwartet);
 }

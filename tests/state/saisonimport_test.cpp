@@ -14,7 +14,8 @@ namespace {
 std::vector<std::string> csvZeilen(const std::string& saison) {
     std::ifstream ein(test::gemeinsameDaten(saison + ".matches.csv"));
     std::vector<std::string> zeilen;
-    for (std::string z; std::getline(ein, z);) zeilen.push_back(z);
+    for (std::string z; std::getline(ein, z);)
+        zeilen.push_back(z);
     return zeilen;
 }
 
@@ -31,7 +32,8 @@ std::vector<std::string> spalten(const std::string& zeile) {
 
 std::string importFehler(const std::vector<std::string>& zeilen) {
     std::string text;
-    for (const auto& z : zeilen) text += z + "\n";
+    for (const auto& z : zeilen)
+        text += z + "\n";
     std::istringstream ein(text);
     try {
         importiereSaison(ein, "x");
@@ -78,7 +80,8 @@ TEST(Saisonimport, UngespielteSpieleBleiben0Zu0) {
     auto zeilen = csvZeilen(test::Saison18);
     zeilen[1] = "1,Bayern München,Bor. Mönchengladbach,,";
     std::string text;
-    for (const auto& z : zeilen) text += z + "\r\n";  // Windows line ends are fine too
+    for (const auto& z : zeilen)
+        text += z + "\r\n";  // Windows line ends are fine too
     std::istringstream ein(text);
     const Dateiinhalt d = importiereSaison(ein, "x");
     EXPECT_EQ(d.ErgebnisDatei[0][0][0], 0);
@@ -102,9 +105,11 @@ TEST(Saisonimport, FehlerNennenDieZeile) {
               "Zeile 6: Einen 35. Spieltag gibt es bei 18 Mannschaften nicht (höchstens 34).");
     EXPECT_EQ(mit(4, "1,1. FC Köln,1. FSV Mainz 05,1"),
               "Zeile 5: Es werden 5 Felder erwartet (matchday,home,away,home_goals,away_goals), gefunden 4.");
-    EXPECT_EQ(mit(4, "1,1. FC Köln,1. FSV Mainz 05,1,"), "Zeile 5: Es sind nur die Tore einer Mannschaft eingetragen.");
+    EXPECT_EQ(mit(4, "1,1. FC Köln,1. FSV Mainz 05,1,"),
+              "Zeile 5: Es sind nur die Tore einer Mannschaft eingetragen.");
     EXPECT_EQ(mit(4, "1,1. FC Köln,1. FSV Mainz 05,1,-2"), "Zeile 5: „1:-2“ ist kein gültiges Ergebnis.");
-    EXPECT_EQ(mit(4, "erster,1. FC Köln,1. FSV Mainz 05,1,0"), "Zeile 5: „erster“ ist keine gültige Spieltagsnummer.");
+    EXPECT_EQ(mit(4, "erster,1. FC Köln,1. FSV Mainz 05,1,0"),
+              "Zeile 5: „erster“ ist keine gültige Spieltagsnummer.");
     EXPECT_EQ(mit(0, "spieltag,heim,gast,tore_heim,tore_gast"),
               "Zeile 1: Die Kopfzeile muss „matchday,home,away,home_goals,away_goals“ lauten.");
 }
@@ -118,8 +123,9 @@ TEST(Saisonimport, KeineDoppelteRundeWirdAbgelehnt) {
     ASSERT_GT(rueckspiel, 0u);
     auto s = spalten(zeilen[rueckspiel]);
     zeilen[rueckspiel] = s[0] + ",Bayern München,Bor. Mönchengladbach,1,1";
-    EXPECT_EQ(importFehler(zeilen), "Zeile " + std::to_string(rueckspiel + 1) +
-                                        ": Das Spiel „Bayern München“ gegen „Bor. Mönchengladbach“ steht schon in Zeile 2.");
+    EXPECT_EQ(importFehler(zeilen),
+              "Zeile " + std::to_string(rueckspiel + 1) +
+                  ": Das Spiel „Bayern München“ gegen „Bor. Mönchengladbach“ steht schon in Zeile 2.");
 
     zeilen = csvZeilen(test::Saison18);
     zeilen.erase(zeilen.begin() + 9);  // the last match of matchday 1
@@ -127,14 +133,17 @@ TEST(Saisonimport, KeineDoppelteRundeWirdAbgelehnt) {
 }
 
 TEST(Saisonimport, NurLigenMit18Oder20Mannschaften) {
-    EXPECT_EQ(importFehler({"matchday,home,away,home_goals,away_goals", "1,A,B,1,0", "1,C,D,0,0", "2,B,C,,",
-                            "2,D,A,,"}),
-              "Die Saison hat 4 Mannschaften; eine Tippspiel-Datei fasst nur Ligen mit 18 oder 20 Mannschaften.");
+    EXPECT_EQ(
+        importFehler(
+            {"matchday,home,away,home_goals,away_goals", "1,A,B,1,0", "1,C,D,0,0", "2,B,C,,", "2,D,A,,"}),
+        "Die Saison hat 4 Mannschaften; eine Tippspiel-Datei fasst nur Ligen mit 18 oder 20 Mannschaften.");
     std::vector<std::string> viele{"matchday,home,away,home_goals,away_goals"};
     for (int i = 0; i < 11; ++i)
         viele.push_back("1,T" + std::to_string(2 * i) + ",T" + std::to_string(2 * i + 1) + ",0,0");
-    EXPECT_EQ(importFehler(viele), "Zeile 12: „T20“ ist die 21. Mannschaft; eine Tippspiel-Datei fasst höchstens 20.");
-    EXPECT_EQ(importFehler({"matchday,home,away,home_goals,away_goals"}), "Die Saisondatei enthält keine Spiele.");
+    EXPECT_EQ(importFehler(viele),
+              "Zeile 12: „T20“ ist die 21. Mannschaft; eine Tippspiel-Datei fasst höchstens 20.");
+    EXPECT_EQ(importFehler({"matchday,home,away,home_goals,away_goals"}),
+              "Die Saisondatei enthält keine Spiele.");
 }
 
 }  // namespace

@@ -28,7 +28,8 @@ Dateiinhalt volleDatei() {
     for (int p = 0; p < MaxSpieler; ++p)
         for (int tag = 0; tag < MaxSpieltage; ++tag)
             for (int k = 0; k < MaxSpiele; ++k)
-                d.TippDatei[p][tag][k] = {{static_cast<i16>((p + tag + k) % 5), static_cast<i16>((p * tag + k) % 4)}};
+                d.TippDatei[p][tag][k] = {
+                    {static_cast<i16>((p + tag + k) % 5), static_cast<i16>((p * tag + k) % 4)}};
     d.ErgebnisDatei[37][9] = {{-3, 32767}};
     d.SptgAuswerten[5] = 1;
     d.SptgAuswerten[37] = -1;
@@ -178,10 +179,9 @@ TEST(Spieldatei, FehlgeschlagenesSpeichernLaesstDieAlteDateiUnveraendert) {
     const auto ziel = ordner / "spiel.tip";
     speichereSpieldatei(ziel, volleDatei());
     const std::string vorher = leseBytes(ziel);
-    std::filesystem::permissions(ordner.pfad(), std::filesystem::perms::owner_read |
-                                                    std::filesystem::perms::owner_exec |
-                                                    std::filesystem::perms::others_read |
-                                                    std::filesystem::perms::others_exec);
+    std::filesystem::permissions(
+        ordner.pfad(), std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec |
+                           std::filesystem::perms::others_read | std::filesystem::perms::others_exec);
     // Root may write anywhere, so as root (as in CI) the save runs under an unprivileged user.
     const bool root = geteuid() == 0;
     if (root && seteuid(65534) != 0) GTEST_SKIP() << "cannot drop privileges";

@@ -31,7 +31,8 @@ TEST(Spielstand, StartwerteEinesNeuenSpiels) {
     EXPECT_EQ(s.getModusPunkte(2), 1);
     EXPECT_EQ(s.getModusFarbe(1), rgb(250, 250, 144));
     EXPECT_EQ(s.getFussnote(), "automatisch erstellt mit 'Kalimbo' - Version 5.0.1");
-    for (int p = 0; p < MaxSpieler; ++p) EXPECT_EQ(s.getTeilnehmer(p), 1);
+    for (int p = 0; p < MaxSpieler; ++p)
+        EXPECT_EQ(s.getTeilnehmer(p), 1);
     EXPECT_EQ(s.getSpielerFarbe(1), rgb(253, 0, 230));
     EXPECT_EQ(s.getSpielerFarbe(8), rgb(204, 204, 255));
 }

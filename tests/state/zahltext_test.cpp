@@ -7,12 +7,12 @@ namespace {
 
 TEST(ZahlAusText, LiestDieZahlAmAnfang) {
     const std::pair<const char*, i16> faelle[] = {
-        {"", 0},     {"X", 0},      {"abc", 0},  {"7", 7},       {"  12", 12}, {"12abc", 12},
-        {"-7", -7},  {"+3", 3},     {"0012", 12}, {"2.5", 2},    {"3.5", 4},   {"-2.5", -2},
-        {"2.51", 3}, {"1e2", 100},  {"1e", 1},   {"1,5", 1},     {".", 0},     {"-", 0},
-        {"32767", 32767}, {"-32768", -32768}, {"3 4", 3},
+        {"", 0},   {"X", 0},     {"abc", 0}, {"7", 7},   {"  12", 12},     {"12abc", 12},      {"-7", -7},
+        {"+3", 3}, {"0012", 12}, {"2.5", 2}, {"3.5", 4}, {"-2.5", -2},     {"2.51", 3},        {"1e2", 100},
+        {"1e", 1}, {"1,5", 1},   {".", 0},   {"-", 0},   {"32767", 32767}, {"-32768", -32768}, {"3 4", 3},
     };
-    for (const auto& [text, wert] : faelle) EXPECT_EQ(zahlAusText(text), wert) << '"' << text << '"';
+    for (const auto& [text, wert] : faelle)
+        EXPECT_EQ(zahlAusText(text), wert) << '"' << text << '"';
 }
 
 TEST(ZahlAusText, UeberlaufJenseitsVon16Bit) {
