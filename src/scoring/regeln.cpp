@@ -8,4 +8,17 @@ std::string regelName(i16 modus) {
     return "unbekannte Regel " + std::to_string(modus);
 }
 
+void waehleRegel(Spielstand& s, i16 modus) {
+    if (modus == ModusEigeneRegel) {
+        s.Modus = modus;
+        return;
+    }
+    const FesteRegel& regel = FesteRegeln[pruefeIndex(modus, FesteRegeln.size())];
+    s.Modus = modus;
+    for (int art = 0; art < 3; ++art) {
+        s.ModusPunkte[art] = regel.punkte[art];
+        s.ModusFarbe[art] = regel.farben[art];
+    }
+}
+
 }  // namespace kalimbo

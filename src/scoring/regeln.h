@@ -3,7 +3,7 @@
 #include <array>
 #include <string>
 
-#include "state/zahl16.h"
+#include "state/spielstand.h"
 
 namespace kalimbo {
 
@@ -28,7 +28,40 @@ constexpr std::array<FesteRegel, 3> FesteRegeln{{
 
 constexpr i16 ModusEigeneRegel = 3;
 
+// Hit kinds of a scored tip, as stored in SpielerAuswertung::Korrekt.
+constexpr i16 KomplettRichtig = 0;
+constexpr i16 RichtigeHoehe = 1;
+constexpr i16 RichtigeTendenz = 2;
+constexpr i16 KeinTreffer = -1;
+
 // Name of the rule `modus` as the menu "Modus" shows it; the own rule is "Eigene Regel".
 std::string regelName(i16 modus);
+
+// Hit kind of a tip from whether it names the result exactly and from the two differences (home
+// minus away goals) of tip and result: 0 fully correct, 1 correct margin of a won match, 2 correct
+// tendency (a draw tipped as another draw is a tendency), -1 no hit. The evaluation scores every
+// tip of a season in one vectorised loop, so this is computed with masks instead of branches:
+// -b is all ones (-1) when b holds and 0 when not.
+constexpr i16 trefferart(bool komplett, i16 tippDifferenz, i16 ergebnisDifferenz) {
+    const i16 voll = -static_cast<i16>(komplett);
+    const i16 hoehe = -static_cast<i16>((tippDifferenz == ergebnisDifferenz) & (ergebnisDifferenz != 0));
+    const i16 tendenz = -static_cast<i16>(((tippDifferenz > 0) == (ergebnisDifferenz > 0)) &
+                                          ((tippDifferenz < 0) == (ergebnisDifferenz < 0)));
+    // Full and margin hits are tendency hits too; the better kind wins: 2 + hoehe is 1 for a
+    // margin hit and 2 for a plain tendency, cleared for a full hit, all ones without a tendency.
+    return static_cast<i16>(((RichtigeTendenz + hoehe) & ~voll) | ~tendenz);
+}
+
+// Hit kind of one tip against the real result (goal counts as stored, 0:0 included), as
+// trefferart(). The differences are overflow-checked (Laufzeitfehler::Ueberlauf).
+constexpr i16 klassifiziere(i16 tippHeim, i16 tippAus, i16 ergebnisHeim, i16 ergebnisAus) {
+    return trefferart(tippHeim == ergebnisHeim && tippAus == ergebnisAus, minus16(tippHeim, tippAus),
+                      minus16(ergebnisHeim, ergebnisAus));
+}
+
+// Makes `modus` the active rule. 0..2: Modus and the fixed rule's three points and colours;
+// 3 (own rule): only Modus, the points and colours stay as the own-rule window left them.
+// Any other value throws Laufzeitfehler::Index and changes nothing. Nothing is re-evaluated.
+void waehleRegel(Spielstand& s, i16 modus);
 
 }  // namespace kalimbo
