@@ -2,6 +2,8 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "state/spielstand.h"
 
@@ -14,6 +16,19 @@ inline constexpr const char* Saison20 = "en1-2010-11";
 std::filesystem::path gemeinsameDaten(const std::string& datei);
 // A new game built from the season's match list.
 Dateiinhalt saison(const std::string& name);
+// The rows of a CSV file below its header line, split at the commas (the shared data quotes nothing).
+std::vector<std::vector<std::string>> leseCsv(const std::filesystem::path& pfad);
+
+// Scores in short notation, match 0 first: "2:1 0:0 1:3". Writes the real results of a matchday,
+// or one player's tips of a matchday; matches not named keep their values.
+void setzeErgebnisse(Spielstand& s, int spieltag, std::string_view ergebnisse);
+void setzeTipps(Spielstand& s, int spieler, int spieltag, std::string_view tipps);
+
+// The matchdays selected by SptgAuswerten in the notation "0-2, 5" (0-based, "" for none), and
+// the flags set to exactly such a list.
+std::string auswahl(const Spielstand& s);
+void setzeAuswahl(Spielstand& s, std::string_view auswahl);
+
 std::string leseBytes(const std::filesystem::path& pfad);
 void schreibeBytes(const std::filesystem::path& pfad, const std::string& bytes);
 
