@@ -1,0 +1,38 @@
+#include "tabellen.h"
+
+#include <ostream>
+
+#include "scoring/auswahl.h"
+#include "scoring/auswertung.h"
+#include "scoring/regeln.h"
+
+namespace kalimbo::cli {
+
+void werteWieGeoeffnetAus(Spielstand& spiel, const Auswertungsoptionen& optionen) {
+    spiel.AktSpieltag = letzterAusgewaehlterSpieltag(spiel);
+    if (optionen.regel) waehleRegel(spiel, *optionen.regel);
+    if (optionen.alle) waehleAlle(spiel);
+    werteAus(spiel, optionen.sonntag);
+    markiereNichtteilnehmer(spiel);
+}
+
+void schreibeTabelle(const Spielstand& spiel, std::ostream& aus) {
+    for (int platz = 0; platz <= spiel.AnzTeams; ++platz) {
+        const int team = spiel.DiesTeam(platz);
+        const Tabellenzeile& z = spiel.Tabelle[team];
+        aus << platz + 1 << '\t' << z.Name << '\t' << z.Punkte << '\t'
+            << std::get<std::string>(spiel.getTabInfo(team, 3)) << '\t'
+            << std::get<i16>(spiel.getTabInfo(team, 4)) << '\t' << z.Siege << '\t' << z.Unentschieden << '\t'
+            << z.Niederlagen << '\n';
+    }
+}
+
+void schreibeSpieler(const Spielstand& spiel, std::ostream& aus) {
+    for (int position = 0; position < MaxSpieler; ++position) {
+        const i16 spieler = spielerAufPlatz(spiel, position);
+        const SpielerAuswertung& a = spiel.Auswertung[spieler];
+        aus << a.Platz + 1 << '\t' << spiel.Spielername[spieler] << '\t' << a.GesamtPunkte << '\n';
+    }
+}
+
+}  // namespace kalimbo::cli
