@@ -1,0 +1,57 @@
+// The evaluation runs on every goal click; it must not touch the heap. This file replaces the
+// global operator new of the test program to count allocations.
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <cstdlib>
+#include <new>
+
+#include "scoring/auswahl.h"
+#include "scoring/auswertung.h"
+#include "testdaten.h"
+
+namespace {
+std::atomic<long> anforderungen{0};
+}
+
+void* operator new(std::size_t groesse) {
+    anforderungen.fetch_add(1, std::memory_order_relaxed);
+    if (void* p = std::malloc(groesse == 0 ? 1 : groesse)) return p;
+    throw std::bad_alloc();
+}
+void operator delete(void* p) noexcept {
+    std::free(p);
+}
+void operator delete(void* p, std::size_t) noexcept {
+    std::free(p);
+}
+
+namespace kalimbo {
+namespace {
+
+TEST(Speicher, AuswertungHoltNichtsVomHeap) {
+    Spielstand s;
+    s.oeffne(test::saison(test::Saison20));
+    for (int p = 0; p < MaxSpieler; ++p)
+        for (int tag = 0; tag <= s.AnzSpieltage; ++tag)
+            for (int spiel = 0; spiel <= s.AnzSpiele; ++spiel)
+                s.Tipp[p][tag][spiel] = {
+                    {static_cast<i16>((p + spiel) % 4), static_cast<i16>((tag + p) % 3)}};
+    waehleAlle(s);
+    s.AktSpieltagGlobal = 37;
+    werteAus(s, true);  // the table takes over the team names once
+
+    const long vorher = anforderungen.load();
+    werteAus(s, true);
+    werteAus(s, false);
+    EXPECT_EQ(anforderungen.load() - vorher, 0);
+    EXPECT_GT(s.getGesamtPunkte(0), 0);
+
+    const long probe = anforderungen.load();
+    int* volatile zahl = new int(1);  // the counter does see allocations
+    delete zahl;
+    EXPECT_EQ(anforderungen.load() - probe, 1);
+}
+
+}  // namespace
+}  // namespace kalimbo
