@@ -17,8 +17,14 @@ SpielerAuswertung SpielerAuswertung::leer(int slot) {
 }
 
 Spielstand::Spielstand() {
-    for (int t = 0; t < Tabelle.groesse(); ++t)
+    verwirfAuswertung();
+}
+
+void Spielstand::verwirfAuswertung() {
+    for (int t = 0; t < Tabelle.groesse(); ++t) {
+        Tabelle[t] = Tabellenzeile{};
         Tabelle[t].Tabellenplatz = static_cast<i16>(t);
+    }
     for (int p = 0; p < MaxSpieler; ++p)
         Auswertung[p] = SpielerAuswertung::leer(p);
 }
@@ -26,6 +32,7 @@ Spielstand::Spielstand() {
 void Spielstand::oeffne(const Dateiinhalt& inhalt) {
     static_cast<Dateiinhalt&>(*this) = inhalt;
     kopiereDateiInArbeit();
+    verwirfAuswertung();
 }
 
 void Spielstand::kopiereDateiInArbeit() {

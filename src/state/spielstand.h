@@ -133,9 +133,12 @@ struct Spielstand : Dateiinhalt {
 
     Spielstand();
 
-    // Replaces every file field with those read from a file and copies the file's results and
-    // tips into the working arrays.
+    // Replaces every file field with those read from a file, copies the file's results and tips
+    // into the working arrays and clears the evaluation, which belonged to the previous game.
     void oeffne(const Dateiinhalt& inhalt);
+    // Evaluation records and table as before any evaluation: no points, unscored tips, table
+    // positions in team order.
+    void verwirfAuswertung();
     // ErgebnisDatei -> Ergebnis, TippDatei -> Tipp (after reading a file).
     void kopiereDateiInArbeit();
     // Ergebnis -> ErgebnisDatei, Tipp -> TippDatei (before writing a file).

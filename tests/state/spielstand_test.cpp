@@ -136,6 +136,17 @@ TEST(Spielstand, OeffnenUebernimmtDateiUndArbeitskopien) {
     EXPECT_EQ(s.getTipp(8, 37, 9, 0), 1);
     EXPECT_EQ(s.AktSpieltag, 7);  // not part of the file
 
+    // Figures of the game evaluated before do not carry over to the one opened.
+    s.Auswertung[2].GesamtPunkte = 40;
+    s.Auswertung[2].Korrekt[0][0] = 0;
+    s.Tabelle[5].Punkte = 9;
+    s.Tabelle[5].Tabellenplatz = 0;
+    s.oeffne(d);
+    EXPECT_EQ(s.getGesamtPunkte(2), 0);
+    EXPECT_EQ(s.getKorrekt(2, 0, 0), -1);
+    EXPECT_EQ(s.getTabInfo(5, 2), TabInfo{i16{0}});
+    EXPECT_EQ(s.DiesTeam(5), 5);
+
     s.Tipp[0][0][0] = {{3, 3}};
     s.kopiereArbeitInDatei();
     EXPECT_EQ(s.TippDatei[0][0][0][1], 3);

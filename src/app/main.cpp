@@ -1,0 +1,16 @@
+#include <QApplication>
+
+#include "ui/dialoge.h"
+#include "ui/frmvela_haupt.h"
+
+// kalimbo [SPIEL.tip]
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setApplicationName(QStringLiteral("Kalimbo"));
+    kalimbo::ui::QtDialoge dialoge;
+    kalimbo::ui::frmVela_Haupt fenster(dialoge);
+    fenster.zeigeBeimStart();
+    if (argc > 1) fenster.oeffne(QString::fromLocal8Bit(argv[1]));
+    return QApplication::exec();
+}

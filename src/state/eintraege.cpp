@@ -1,0 +1,28 @@
+#include "eintraege.h"
+
+#include "zahltext.h"
+
+namespace kalimbo {
+
+void uebernimmEintraege(Spielstand& spiel, const Spieltagseintraege& e) {
+    const int tag = spiel.AktSpieltag;
+    Feld<Feld<i16, 2>, MaxSpiele> ergebnis = spiel.Ergebnis[tag];
+    Feld<Feld<Feld<i16, 2>, MaxSpiele>, MaxSpieler> tipp;
+    for (int p = 0; p < MaxSpieler; ++p)
+        tipp[p] = spiel.Tipp[p][tag];
+
+    for (int k = 0; k <= spiel.AnzSpiele; ++k)
+        ergebnis[k] = {{zahlAusText(e.heimErgebnis[static_cast<std::size_t>(k)]),
+                        zahlAusText(e.ausErgebnis[static_cast<std::size_t>(k)])}};
+    for (std::size_t i = 0; i < e.heimTipp.size(); ++i) {
+        auto& t = tipp[static_cast<int>(i / MaxSpiele)][static_cast<int>(i % MaxSpiele)];
+        if (e.heimTipp[i] != "X") t[0] = zahlAusText(e.heimTipp[i]);
+        t[1] = zahlAusText(e.ausTipp[i]);
+    }
+
+    spiel.Ergebnis[tag] = ergebnis;
+    for (int p = 0; p < MaxSpieler; ++p)
+        spiel.Tipp[p][tag] = tipp[p];
+}
+
+}  // namespace kalimbo

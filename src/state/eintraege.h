@@ -1,0 +1,28 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "spielstand.h"
+
+namespace kalimbo {
+
+// Key filter of the entry boxes: digits ("0".."9") and backspace (8) pass, every other character
+// code becomes the digit "0" (48), so a mistyped letter still types a number.
+constexpr i16 tastenfilter(i16 taste) {
+    return (taste > 57 || (taste < 48 && taste != 8)) ? i16{48} : taste;
+}
+
+// The texts of the matchday view's boxes: results per match, tips per field p * 10 + match.
+struct Spieltagseintraege {
+    std::array<std::string, MaxSpiele> heimErgebnis, ausErgebnis;
+    std::array<std::string, MaxSpieler * MaxSpiele> heimTipp, ausTipp;
+};
+
+// Takes the boxes of the matchday shown (AktSpieltag) into Ergebnis (matches 0..AnzSpiele) and
+// Tipp (all 90 fields). A home tip box showing exactly "X" keeps the stored home tip; the away
+// tip is always taken. Every text is read first: a number outside the 16-bit range throws
+// Laufzeitfehler::Ueberlauf and nothing is changed.
+void uebernimmEintraege(Spielstand& spiel, const Spieltagseintraege& eintraege);
+
+}  // namespace kalimbo

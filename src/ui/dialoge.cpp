@@ -1,0 +1,38 @@
+#include "dialoge.h"
+
+#include <QFileDialog>
+#include <QMessageBox>
+
+namespace kalimbo::ui {
+
+QString qtFilter(const QString& filter) {
+    const QStringList teile = filter.split('|');
+    QStringList ergebnis;
+    for (int i = 0; i + 1 < teile.size(); i += 2) {
+        const QString muster = teile[i + 1] == "*.*" ? "*" : teile[i + 1];
+        ergebnis << (teile[i].contains('(') ? teile[i] : teile[i] + " (" + muster + ")");
+    }
+    return ergebnis.join(";;");
+}
+
+QString QtDialoge::oeffnen(QWidget* eltern, const QString& titel, const QString& filter) {
+    return QFileDialog::getOpenFileName(eltern, titel, QString(), qtFilter(filter));
+}
+
+QString QtDialoge::speichern(QWidget* eltern, const QString& titel, const QString& filter,
+                             const QString& vorschlag) {
+    QFileDialog dialog(eltern, titel, vorschlag, qtFilter(filter));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    // The first pattern's extension is added when the user types a bare name.
+    const QString muster = filter.section('|', 1, 1);
+    if (muster.startsWith("*.") && muster != "*.*") dialog.setDefaultSuffix(muster.mid(2));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+    return dialog.selectedFiles().first();
+}
+
+void QtDialoge::meldung(QWidget* eltern, const QString& text) {
+    QMessageBox::information(eltern, QStringLiteral("Kalimbo"), text);
+}
+
+}  // namespace kalimbo::ui

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+namespace kalimbo::ui {
+
+// Every dialog that blocks (file choice, message box) goes through this interface, so that tests
+// can answer them without showing anything.
+class Dialoge {
+  public:
+    virtual ~Dialoge() = default;
+    // Filters are written "Beschreibung (*.tip)|*.tip|Alle Dateien|*.*". An empty result means
+    // the user cancelled.
+    virtual QString oeffnen(QWidget* eltern, const QString& titel, const QString& filter) = 0;
+    virtual QString speichern(QWidget* eltern, const QString& titel, const QString& filter,
+                              const QString& vorschlag) = 0;
+    // A message with only an OK button.
+    virtual void meldung(QWidget* eltern, const QString& text) = 0;
+};
+
+// The real dialogs.
+class QtDialoge : public Dialoge {
+  public:
+    QString oeffnen(QWidget* eltern, const QString& titel, const QString& filter) override;
+    QString speichern(QWidget* eltern, const QString& titel, const QString& filter,
+                      const QString& vorschlag) override;
+    void meldung(QWidget* eltern, const QString& text) override;
+};
+
+// "Tippspiel-Dateien (*.tip)|*.tip|Alle Dateien|*.*" as Qt writes it:
+// "Tippspiel-Dateien (*.tip);;Alle Dateien (*)".
+QString qtFilter(const QString& filter);
+
+}  // namespace kalimbo::ui

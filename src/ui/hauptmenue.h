@@ -1,0 +1,31 @@
+#pragma once
+
+#include <array>
+
+class QAction;
+class QMenu;
+class QMenuBar;
+
+namespace kalimbo::ui {
+
+// The main window's menu tree. Every item carries its name as object name ("menOeffnen",
+// "menRecent_1", "menSptgLetzten_6", ...), so tests and handlers can find it.
+struct Hauptmenue {
+    QAction *menOeffnen, *menSpeichern, *menTippdatei, *menImpTrainer, *menHTML, *menBericht, *menDrucken,
+        *menBeenden;
+    std::array<QAction*, 3> menRecent;
+    QAction *menSptgAlle, *menSptgKeinen, *menSptgHinrunde, *menSptgRueckrunde, *menSptgAlleAbsolv,
+        *menSptgAlleAbsolvRueck;
+    QMenu* menTrainerwechsel;
+    std::array<QAction*, 10> menDieserTrainer;
+    static constexpr std::array<int, 5> LetzteAnzahlen{3, 6, 10, 17, 24};
+    std::array<QAction*, 5> menSptgLetzten;  // in the order of LetzteAnzahlen
+    QAction *menReg321, *menReg3, *menReg2, *menRegEigene;
+    QAction *menSpielerAe, *menAuswerten;
+    QAction *menNormal, *menGrafik, *menSimulation, *menHaeufigkeiten;
+    QAction* menUeber;
+};
+
+Hauptmenue baueHauptmenue(QMenuBar* leiste);
+
+}  // namespace kalimbo::ui

@@ -1,0 +1,13 @@
+#include "klicklabel.h"
+
+#include <QMouseEvent>
+
+namespace kalimbo::ui {
+
+void KlickLabel::mouseReleaseEvent(QMouseEvent* ereignis) {
+    if (ereignis->button() == Qt::LeftButton && rect().contains(ereignis->position().toPoint()))
+        emit geklickt();
+    QLabel::mouseReleaseEvent(ereignis);
+}
+
+}  // namespace kalimbo::ui

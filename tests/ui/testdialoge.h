@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QStringList>
+
+#include "ui/dialoge.h"
+
+namespace kalimbo::ui::test {
+
+// Answers the dialogs from prepared lists and records what was asked and shown.
+class TestDialoge : public Dialoge {
+  public:
+    QStringList antworten;    // paths chosen in the next file dialogs; "" = cancelled
+    QStringList titel;        // titles of the file dialogs shown
+    QStringList vorschlaege;  // names proposed by save dialogs
+    QStringList meldungen;    // texts of the message boxes shown
+
+    QString oeffnen(QWidget*, const QString& t, const QString&) override {
+        titel << t;
+        return antworten.isEmpty() ? QString() : antworten.takeFirst();
+    }
+    QString speichern(QWidget*, const QString& t, const QString&, const QString& vorschlag) override {
+        titel << t;
+        vorschlaege << vorschlag;
+        return antworten.isEmpty() ? QString() : antworten.takeFirst();
+    }
+    void meldung(QWidget*, const QString& text) override { meldungen << text; }
+};
+
+}  // namespace kalimbo::ui::test
