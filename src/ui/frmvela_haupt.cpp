@@ -95,6 +95,7 @@ frmVela_Haupt::frmVela_Haupt(Dialoge& dialoge, QWidget* eltern) : QMainWindow(el
 
     m_zuletzt.laden();
     aktualisiereZuletztMenue();
+    zeigeAktuellenSpieltag();
     fangeFehler(this, m_dialoge, [this] {
         lblSpieltagWahl_Click(0);
         lblSpieler_Click(0);
@@ -260,10 +261,7 @@ void frmVela_Haupt::erzeugeBedienfeld() {
         txtSonntag[j]->setValidator(new QIntValidator(0, 9, txtSonntag[j]));
         txtSonntag[j]->setToolTip(QStringLiteral("Nummer des Spiels, von 0 an gezählt (erstes Spiel = 0)"));
     }
-    for (QLineEdit* t : {txtAktSpieltag, txtSonntag[0], txtSonntag[1]}) {
-        t->setAlignment(Qt::AlignCenter);
-        t->setText(QStringLiteral("0"));
-    }
+    for (QLineEdit* t : {txtAktSpieltag, txtSonntag[0], txtSonntag[1]}) t->setAlignment(Qt::AlignCenter);
     cmdSonntag =
         element<QPushButton>(fraSpiele, QStringLiteral("cmdSonntag"), rechteck(13560, 2760, 1590, 345));
     cmdSonntag->setText(QStringLiteral("übernehmen"));
@@ -441,6 +439,11 @@ void frmVela_Haupt::wendeSpielAn() {
         txtSonntag[j]->setText(QString::number(m_spiel.SonntagSpiele[j]));
     ShowMatchday();  // so that the click below takes the new game's values, not the old boxes
     lblSpieltagWahl_Click(letzterAusgewaehlterSpieltag(m_spiel));
+}
+
+void frmVela_Haupt::zeigeAktuellenSpieltag() {
+    txtAktSpieltag->setText(QString::number(m_spiel.AktSpieltagGlobal));
+    for (int j = 0; j < 2; ++j) txtSonntag[j]->setText(QString::number(m_spiel.SonntagSpiele[j]));
 }
 
 void frmVela_Haupt::aktualisiereRegelHaken() {

@@ -109,6 +109,7 @@ class frmVela_Haupt : public QMainWindow {
     void setzeLayout();
     void aktualisiereZuletztMenue();
     void aktualisiereRegelHaken();
+    void zeigeAktuellenSpieltag();
     void aktualisiereTitel(const QString& datei);
 };
 

@@ -94,6 +94,7 @@ class FrmVelaHauptTest : public QObject {
         for (int k = 0; k < 10; ++k)
             QVERIFY(sichtbar(QStringLiteral("lblHeimTeam_%1").arg(k)));
         QCOMPARE(fenster->spiel().getAktSpieltagGlobal(), 99);
+        QCOMPARE(kind<QLineEdit>("txtAktSpieltag")->text(), QStringLiteral("99"));
         QCOMPARE(fenster->spiel().getAnzSpieltage(), 37);
         QCOMPARE(label("lblSpieltagWahl", 0)->palette().color(QPalette::Window), QColor(255, 0, 0));
         QCOMPARE(label("lblSpieltagWahl", 1)->palette().color(QPalette::Window), QColor(255, 255, 128));
