@@ -11,6 +11,16 @@ namespace kalimbo {
 
 namespace {
 
+// Calls f(matchday, match, side) for every element of a matchday x match x side array in file
+// order: the matchday varies fastest, then the match, then the side.
+template <class F>
+void jedesSpielfeld(F f) {
+    for (int seite = 0; seite < 2; ++seite)
+        for (int spiel = 0; spiel < MaxSpiele; ++spiel)
+            for (int tag = 0; tag < MaxSpieltage; ++tag)
+                f(tag, spiel, seite);
+}
+
 // Visits every field in file order. `D` is Dateiinhalt or const Dateiinhalt, `V` the reader or
 // the writer; both see exactly the same sequence, so the layout is defined in this one place.
 template <class D, class V>
@@ -21,10 +31,7 @@ void besucheFelder(D& d, V& v) {
         v.text(s);
     for (auto& s : d.Spielername)
         v.text(s);
-    for (int seite = 0; seite < 2; ++seite)
-        for (int spiel = 0; spiel < MaxSpiele; ++spiel)
-            for (int tag = 0; tag < MaxSpieltage; ++tag)
-                v.zahl(d.Paarung[tag][spiel][seite]);
+    jedesSpielfeld([&](int tag, int spiel, int seite) { v.zahl(d.Paarung[tag][spiel][seite]); });
     v.zahl(d.AnzSpieltage);
     v.zahl(d.AnzSpiele);
     v.zahl(d.AnzTippfelder);
@@ -32,15 +39,11 @@ void besucheFelder(D& d, V& v) {
     v.zahl(d.AnzSpieler);
     for (auto& f : d.TabFarbe)
         v.farbe(f);
-    for (int seite = 0; seite < 2; ++seite)
-        for (int spiel = 0; spiel < MaxSpiele; ++spiel)
-            for (int tag = 0; tag < MaxSpieltage; ++tag)
-                v.zahl(d.ErgebnisDatei[tag][spiel][seite]);
-    for (int seite = 0; seite < 2; ++seite)
-        for (int spiel = 0; spiel < MaxSpiele; ++spiel)
-            for (int tag = 0; tag < MaxSpieltage; ++tag)
-                for (int spieler = 0; spieler < MaxSpieler; ++spieler)
-                    v.zahl(d.TippDatei[spieler][tag][spiel][seite]);
+    jedesSpielfeld([&](int tag, int spiel, int seite) { v.zahl(d.ErgebnisDatei[tag][spiel][seite]); });
+    jedesSpielfeld([&](int tag, int spiel, int seite) {  // the player varies fastest of all
+        for (int spieler = 0; spieler < MaxSpieler; ++spieler)
+            v.zahl(d.TippDatei[spieler][tag][spiel][seite]);
+    });
     for (auto& z : d.SptgAuswerten)
         v.zahl(z);
     v.zahl(d.AktSpieltagGlobal);
