@@ -1,10 +1,12 @@
-// Milliseconds from the start of main to the first paint of the main window on a sample game,
+// Milliseconds from the start of main to the first paint of the main window on a sample game
+// (and, on a second line, the wall-clock time of that moment in ns, for timing from the launch),
 // or (with --minimal) of a minimal Qt window showing one line of text: the floor any Qt program
 // with text pays (loading the font database is most of it). Run by startzeit.sh.
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QTimer>
+#include <chrono>
 #include <cstdio>
 
 #include "ui/dialoge.h"
@@ -21,7 +23,10 @@ class ErsterPaint : public QObject {
         if (e->type() == QEvent::Paint && !m_fertig) {
             m_fertig = true;
             QTimer::singleShot(0, qApp, [this] {
-                std::printf("%.2f\n", static_cast<double>(m_uhr.nsecsElapsed()) / 1e6);
+                std::printf("%.2f\n%lld\n", static_cast<double>(m_uhr.nsecsElapsed()) / 1e6,
+                            static_cast<long long>(std::chrono::duration_cast<std::chrono::nanoseconds>(
+                                                       std::chrono::system_clock::now().time_since_epoch())
+                                                       .count()));
                 QApplication::quit();
             });
         }
@@ -49,8 +54,8 @@ int main(int argc, char** argv) {
     }
     QApplication::setStyle(QStringLiteral("Fusion"));
     kalimbo::ui::QtDialoge dialoge;
-    kalimbo::ui::frmVela_Haupt fenster(dialoge);
+    kalimbo::ui::frmVela_Haupt fenster(dialoge,
+                                       QStringLiteral(KALIMBO_SAMPLE_DATA "/bundesliga-2005-06.tip"));
     fenster.zeigeBeimStart();
-    fenster.oeffne(QStringLiteral(KALIMBO_SAMPLE_DATA "/bundesliga-2005-06.tip"));
     return QApplication::exec();
 }

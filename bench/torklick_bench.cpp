@@ -4,10 +4,10 @@
 
 #include <QApplication>
 #include <QLabel>
-#include <QLineEdit>
 #include <QTest>
 
 #include "ui/dialoge.h"
+#include "ui/eingabefeld.h"
 #include "ui/frmvela_haupt.h"
 
 namespace {
@@ -19,7 +19,7 @@ void Torklick(benchmark::State& state) {
     fenster.show();
     QApplication::processEvents();
     auto* team = fenster.findChild<QLabel*>(QStringLiteral("lblHeimTeam_0"));
-    auto* tore = fenster.findChild<QLineEdit*>(QStringLiteral("txtHeimErgebnis_0"));
+    auto* tore = fenster.findChild<kalimbo::ui::Eingabefeld*>(QStringLiteral("txtHeimErgebnis_0"));
     for (auto _ : state) {
         state.PauseTiming();
         tore->setText(QStringLiteral("0"));

@@ -9,8 +9,7 @@ int main(int argc, char** argv) {
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setApplicationName(QStringLiteral("Kalimbo"));
     kalimbo::ui::QtDialoge dialoge;
-    kalimbo::ui::frmVela_Haupt fenster(dialoge);
+    kalimbo::ui::frmVela_Haupt fenster(dialoge, argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString());
     fenster.zeigeBeimStart();
-    if (argc > 1) fenster.oeffne(QString::fromLocal8Bit(argv[1]));
     return QApplication::exec();
 }

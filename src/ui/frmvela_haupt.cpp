@@ -8,6 +8,7 @@
 #include <QGroupBox>
 #include <QIntValidator>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -76,11 +77,11 @@ void setzeZahl(QLabel* l, i16 wert) {
 
 }  // namespace
 
-frmVela_Haupt::frmVela_Haupt(Dialoge& dialoge, QWidget* eltern) : QMainWindow(eltern), m_dialoge(dialoge) {
+frmVela_Haupt::frmVela_Haupt(Dialoge& dialoge, const QString& startdatei, QWidget* eltern)
+    : QMainWindow(eltern), m_dialoge(dialoge) {
     setObjectName(QStringLiteral("frmVela_Haupt"));
-    QFont schrift = font();  // the layout is designed for an 8-point font
-    schrift.setPointSize(8);
-    schrift.setStretch(QFont::SemiCondensed);
+    QFont schrift = font();  // the layout is designed for a small font
+    schrift.setPointSizeF(7.5);
     setFont(schrift);
     auto* mitte = new QWidget(this);
     setCentralWidget(mitte);
@@ -96,8 +97,11 @@ frmVela_Haupt::frmVela_Haupt(Dialoge& dialoge, QWidget* eltern) : QMainWindow(el
     m_zuletzt.laden();
     aktualisiereZuletztMenue();
     zeigeAktuellenSpieltag();
+    // A game named on the command line is opened at once; it ends by showing its last selected
+    // matchday, so matchday 0 of the empty game need not be drawn first.
+    if (!startdatei.isEmpty()) oeffne(startdatei);
     fangeFehler(this, m_dialoge, [this] {
-        lblSpieltagWahl_Click(0);
+        if (m_spiel.Dateipfad.empty()) lblSpieltagWahl_Click(0);
         lblSpieler_Click(0);
     });
 }
@@ -261,7 +265,8 @@ void frmVela_Haupt::erzeugeBedienfeld() {
         txtSonntag[j]->setValidator(new QIntValidator(0, 9, txtSonntag[j]));
         txtSonntag[j]->setToolTip(QStringLiteral("Nummer des Spiels, von 0 an gezählt (erstes Spiel = 0)"));
     }
-    for (QLineEdit* t : {txtAktSpieltag, txtSonntag[0], txtSonntag[1]}) t->setAlignment(Qt::AlignCenter);
+    for (QLineEdit* t : {txtAktSpieltag, txtSonntag[0], txtSonntag[1]})
+        t->setAlignment(Qt::AlignCenter);
     cmdSonntag =
         element<QPushButton>(fraSpiele, QStringLiteral("cmdSonntag"), rechteck(13560, 2760, 1590, 345));
     cmdSonntag->setText(QStringLiteral("übernehmen"));
@@ -443,7 +448,8 @@ void frmVela_Haupt::wendeSpielAn() {
 
 void frmVela_Haupt::zeigeAktuellenSpieltag() {
     txtAktSpieltag->setText(QString::number(m_spiel.AktSpieltagGlobal));
-    for (int j = 0; j < 2; ++j) txtSonntag[j]->setText(QString::number(m_spiel.SonntagSpiele[j]));
+    for (int j = 0; j < 2; ++j)
+        txtSonntag[j]->setText(QString::number(m_spiel.SonntagSpiele[j]));
 }
 
 void frmVela_Haupt::aktualisiereRegelHaken() {
@@ -593,6 +599,10 @@ void frmVela_Haupt::TakeEntries() {
 
 void frmVela_Haupt::lblSpieltagWahl_Click(int spieltag) {
     TakeEntries();  // for the matchday shown so far, so that nothing typed is lost
+    zeigeSpieltag(spieltag);
+}
+
+void frmVela_Haupt::zeigeSpieltag(int spieltag) {
     KlickLabel* alt = lblSpieltagWahl[static_cast<std::size_t>(pruefeIndex(m_spieltagWahlAlt, MaxSpieltage))];
     setzeFarben(alt, Hellgelb, Qt::black);
     setzeFett(alt, false);

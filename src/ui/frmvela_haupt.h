@@ -30,7 +30,8 @@ class Tipptabellen;
 class frmVela_Haupt : public QMainWindow {
     Q_OBJECT
   public:
-    explicit frmVela_Haupt(Dialoge& dialoge, QWidget* eltern = nullptr);
+    // Starts with the game file `startdatei` open, if one is given.
+    explicit frmVela_Haupt(Dialoge& dialoge, const QString& startdatei = {}, QWidget* eltern = nullptr);
 
     const Spielstand& spiel() const { return m_spiel; }
     // Opens a game file as "Öffnen" does once the dialog has given the path.
@@ -90,6 +91,7 @@ class frmVela_Haupt : public QMainWindow {
     void cmdAuswerten_Click();
     void cmdSonntag_Click();
     void lblSpieltagWahl_Click(int spieltag);
+    void zeigeSpieltag(int spieltag);
     void lblAuswahl_Click(int spieltag);
     void lblTeam_Click(int spiel, int seite);
     void lblSpieler_Click(int spieler);

@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QFocusEvent>
 #include <QGroupBox>
 #include <QLabel>
@@ -17,6 +18,7 @@
 
 #include "state/spieldatei.h"
 #include "testdialoge.h"
+#include "ui/eingabefeld.h"
 #include "ui/twips.h"
 
 using namespace kalimbo;
@@ -51,8 +53,8 @@ class FrmVelaHauptTest : public QObject {
         if (!w) qFatal("no child %s", qPrintable(name));
         return w;
     }
-    QLineEdit* feld(const char* name, int i) {
-        return kind<QLineEdit>(QStringLiteral("%1_%2").arg(name).arg(i));
+    Eingabefeld* feld(const char* name, int i) {
+        return kind<Eingabefeld>(QStringLiteral("%1_%2").arg(name).arg(i));
     }
     QLabel* label(const char* name, int i) { return kind<QLabel>(QStringLiteral("%1_%2").arg(name).arg(i)); }
     QAction* aktion(const QString& name) { return kind<QAction>(name); }
@@ -120,10 +122,11 @@ class FrmVelaHauptTest : public QObject {
     }
 
     void tabulatorFolgeLaeuftDieSpalteHinunter() {
-        QCOMPARE(feld("txtAusErgebnis", 9)->nextInFocusChain(), feld("txtHeimTipp", 0));
-        QCOMPARE(feld("txtHeimTipp", 0)->nextInFocusChain(), feld("txtAusTipp", 0));
-        QCOMPARE(feld("txtAusTipp", 0)->nextInFocusChain(), feld("txtHeimTipp", 1));
-        QCOMPARE(feld("txtAusTipp", 9)->nextInFocusChain(), feld("txtHeimTipp", 10));
+        auto naechstes = [this](const char* name, int i) { return feld(name, i)->nextInFocusChain(); };
+        QCOMPARE(naechstes("txtAusErgebnis", 9), static_cast<QWidget*>(feld("txtHeimTipp", 0)));
+        QCOMPARE(naechstes("txtHeimTipp", 0), static_cast<QWidget*>(feld("txtAusTipp", 0)));
+        QCOMPARE(naechstes("txtAusTipp", 0), static_cast<QWidget*>(feld("txtHeimTipp", 1)));
+        QCOMPARE(naechstes("txtAusTipp", 9), static_cast<QWidget*>(feld("txtHeimTipp", 10)));
     }
 
     void oeffnenPasstDasFensterAnDieSaisonAn() {
@@ -270,7 +273,7 @@ class FrmVelaHauptTest : public QObject {
 
         // Taking over another current matchday and Sunday matches marks them on that matchday.
         kind<QLineEdit>("txtAktSpieltag")->setText("3");
-        feld("txtSonntag", 0)->setText("0");
+        kind<QLineEdit>("txtSonntag_0")->setText("0");
         klick(kind("cmdSonntag"));
         QCOMPARE(fenster->spiel().getAktSpieltagGlobal(), 3);
         QVERIFY(sichtbar("chkSonntag"));
@@ -302,7 +305,7 @@ class FrmVelaHauptTest : public QObject {
 
     void tastenUndFokus() {
         oeffne(Bundesliga);
-        QLineEdit* box = feld("txtHeimTipp", 3);
+        Eingabefeld* box = feld("txtHeimTipp", 3);
         const QString vorher = box->text();
         fokus(box, QEvent::FocusIn);
         QCOMPARE(box->text(), QString());
@@ -315,11 +318,14 @@ class FrmVelaHauptTest : public QObject {
         QTest::keyClick(box, Qt::Key_7);
         QCOMPARE(box->text(), QStringLiteral("7"));
         QTest::keyClick(box, Qt::Key_Backspace);
+        QGuiApplication::clipboard()->setText(QStringLiteral("12"));
+        QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier);  // pasting is limited like typing
+        QCOMPARE(box->text(), QString());
         fokus(box, QEvent::FocusOut);  // left empty: the old value comes back
         QCOMPARE(box->text(), vorher);
         QCOMPARE(box->palette().color(QPalette::Base), QColor(255, 255, 255));
 
-        QLineEdit* ergebnis = feld("txtAusErgebnis", 2);
+        Eingabefeld* ergebnis = feld("txtAusErgebnis", 2);
         fokus(ergebnis, QEvent::FocusIn);
         QTest::keyClick(ergebnis, Qt::Key_Percent);
         fokus(ergebnis, QEvent::FocusOut);
@@ -342,7 +348,7 @@ class FrmVelaHauptTest : public QObject {
 
     void torklicksWertenSofortAus() {
         oeffne(Bundesliga);
-        QLineEdit* heim = feld("txtHeimErgebnis", 0);
+        Eingabefeld* heim = feld("txtHeimErgebnis", 0);
         heim->setText(QString());
         klick(label("lblHeimTeam", 0));
         QCOMPARE(heim->text(), QStringLiteral("1"));
@@ -372,7 +378,7 @@ class FrmVelaHauptTest : public QObject {
 
     void torklickInEinGeradeBetretenesFeldZaehltWeiter() {
         oeffne(Bundesliga);
-        QLineEdit* heim = feld("txtHeimErgebnis", 2);
+        Eingabefeld* heim = feld("txtHeimErgebnis", 2);
         const int vorher = heim->text().toInt();
         fenster->show();
         QApplication::setActiveWindow(fenster.get());
