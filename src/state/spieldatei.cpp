@@ -3,6 +3,7 @@
 #include <fstream>
 #include <iterator>
 #include <sstream>
+#include <type_traits>
 
 #include "cp1252.h"
 #include "dateischreiben.h"
@@ -21,50 +22,55 @@ void jedesSpielfeld(F f) {
                 f(tag, spiel, seite);
 }
 
+// One field of the file through the reader or the writer: a number, a colour, a text, or a
+// one-dimensional array of them in index order.
+template <class V, class T>
+void feld(V& v, T& wert) {
+    using Wert = std::remove_const_t<T>;
+    if constexpr (std::is_same_v<Wert, i16>)
+        v.zahl(wert);
+    else if constexpr (std::is_same_v<Wert, Farbe>)
+        v.farbe(wert);
+    else if constexpr (std::is_same_v<Wert, std::string>)
+        v.text(wert);
+    else
+        for (auto& element : wert)
+            feld(v, element);
+}
+
 // Visits every field in file order. `D` is Dateiinhalt or const Dateiinhalt, `V` the reader or
 // the writer; both see exactly the same sequence, so the layout is defined in this one place.
 template <class D, class V>
 void besucheFelder(D& d, V& v) {
-    for (auto& s : d.Teamname)
-        v.text(s);
-    for (auto& s : d.TeamnameKurz)
-        v.text(s);
-    for (auto& s : d.Spielername)
-        v.text(s);
-    jedesSpielfeld([&](int tag, int spiel, int seite) { v.zahl(d.Paarung[tag][spiel][seite]); });
-    v.zahl(d.AnzSpieltage);
-    v.zahl(d.AnzSpiele);
-    v.zahl(d.AnzTippfelder);
-    v.zahl(d.AnzTeams);  // stored before AnzSpieler
-    v.zahl(d.AnzSpieler);
-    for (auto& f : d.TabFarbe)
-        v.farbe(f);
-    jedesSpielfeld([&](int tag, int spiel, int seite) { v.zahl(d.ErgebnisDatei[tag][spiel][seite]); });
+    feld(v, d.Teamname);
+    feld(v, d.TeamnameKurz);
+    feld(v, d.Spielername);
+    jedesSpielfeld([&](int tag, int spiel, int seite) { feld(v, d.Paarung[tag][spiel][seite]); });
+    feld(v, d.AnzSpieltage);
+    feld(v, d.AnzSpiele);
+    feld(v, d.AnzTippfelder);
+    feld(v, d.AnzTeams);  // stored before AnzSpieler
+    feld(v, d.AnzSpieler);
+    feld(v, d.TabFarbe);
+    jedesSpielfeld([&](int tag, int spiel, int seite) { feld(v, d.ErgebnisDatei[tag][spiel][seite]); });
     jedesSpielfeld([&](int tag, int spiel, int seite) {  // the player varies fastest of all
         for (int spieler = 0; spieler < MaxSpieler; ++spieler)
-            v.zahl(d.TippDatei[spieler][tag][spiel][seite]);
+            feld(v, d.TippDatei[spieler][tag][spiel][seite]);
     });
-    for (auto& z : d.SptgAuswerten)
-        v.zahl(z);
-    v.zahl(d.AktSpieltagGlobal);
-    for (auto& z : d.SonntagSpiele)
-        v.zahl(z);
-    for (auto& z : d.Teilnehmer)
-        v.zahl(z);
-    for (auto& f : d.Spielerfarbe)
-        v.farbe(f);
-    for (auto& s : d.LigaInfo)
-        v.text(s);
-    v.zahl(d.Modus);
-    for (auto& z : d.ModusPunkte)
-        v.zahl(z);
-    for (auto& f : d.ModusFarbe)
-        v.farbe(f);
+    feld(v, d.SptgAuswerten);
+    feld(v, d.AktSpieltagGlobal);
+    feld(v, d.SonntagSpiele);
+    feld(v, d.Teilnehmer);
+    feld(v, d.Spielerfarbe);
+    feld(v, d.LigaInfo);
+    feld(v, d.Modus);
+    feld(v, d.ModusPunkte);
+    feld(v, d.ModusFarbe);
     for (auto& t : d.Trainerwechsel) {
-        v.zahl(t.Aktiv);
-        v.text(t.Name);
-        v.zahl(t.VonSpieltag);
-        v.zahl(t.BisSpieltag);
+        feld(v, t.Aktiv);
+        feld(v, t.Name);
+        feld(v, t.VonSpieltag);
+        feld(v, t.BisSpieltag);
     }
 }
 

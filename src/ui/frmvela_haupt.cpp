@@ -381,9 +381,9 @@ void frmVela_Haupt::oeffne(const QString& pfad) {
 
 // A recent file is opened without becoming the file a later save proposes.
 void frmVela_Haupt::menRecent_Click(int slot) {
-    const QString pfad = m_zuletzt.eintraege[static_cast<std::size_t>(slot)];
+    const QString pfad = m_zuletzt.eintraege[slot];
     const Dateiinhalt inhalt = ladeSpieldatei(pfadVon(pfad));
-    nachDemOeffnen(pfad, m_zuletzt.eintraege[static_cast<std::size_t>(slot) + 3], inhalt);
+    nachDemOeffnen(pfad, m_zuletzt.eintraege[slot + 3], inhalt);
 }
 
 void frmVela_Haupt::nachDemOeffnen(const QString& pfad, const QString& titel, const Dateiinhalt& inhalt) {
@@ -417,8 +417,7 @@ void frmVela_Haupt::aktualisiereZuletztMenue() {
         m_menue.menRecent[i]->setVisible(!m_zuletzt.eintraege[i].isEmpty());
     }
     for (int tag = 0; tag <= m_spiel.AnzSpieltage; ++tag)
-        lblAuswahl[static_cast<std::size_t>(pruefeIndex(tag, MaxSpieltage))]->setAutoFillBackground(
-            m_spiel.SptgAuswerten[tag] == 1);
+        lblAuswahl[pruefeIndex(tag, MaxSpieltage)]->setAutoFillBackground(m_spiel.SptgAuswerten[tag] == 1);
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -430,8 +429,8 @@ void frmVela_Haupt::wendeSpielAn() {
         lblAuswahl[tag]->hide();
     }
     for (int tag = 0; tag <= m_spiel.AnzSpieltage; ++tag) {
-        lblSpieltagWahl[static_cast<std::size_t>(tag)]->show();
-        lblAuswahl[static_cast<std::size_t>(tag)]->show();
+        lblSpieltagWahl[tag]->show();
+        lblAuswahl[tag]->show();
     }
     aktualisiereRegelHaken();
     zeigeTrainermenue();
@@ -462,7 +461,7 @@ void frmVela_Haupt::aktualisiereRegelHaken() {
 void frmVela_Haupt::zeigeTrainermenue() {
     for (int i = 0; i < 10; ++i) {
         const Trainerdaten& t = m_spiel.Trainerwechsel[i];
-        QAction* eintrag = m_menue.menDieserTrainer[static_cast<std::size_t>(i)];
+        QAction* eintrag = m_menue.menDieserTrainer[i];
         eintrag->setVisible(i == 0 || t.Aktiv != 0);
         eintrag->setEnabled(t.Aktiv != 0);
         eintrag->setText(i == 0 && t.Aktiv == 0 && t.Name.empty()
@@ -534,8 +533,8 @@ void frmVela_Haupt::ShowMatchday() {
 
     for (int p = 0; p < MaxSpieler; ++p) {
         const SpielerAuswertung& r = m_spiel.Auswertung[p];
-        const auto s = static_cast<std::size_t>(pruefeIndex(r.SptgSortierplatz[m], MaxSpieler));
-        const auto g = static_cast<std::size_t>(pruefeIndex(r.Sortierplatz, MaxSpieler));
+        const auto s = pruefeIndex(r.SptgSortierplatz[m], MaxSpieler);
+        const auto g = pruefeIndex(r.Sortierplatz, MaxSpieler);
         const bool spielt = m_spiel.Teilnehmer[p] == 1;
         fraSpielerSaeule[p]->setVisible(spielt);
         if (spielt) {
@@ -603,10 +602,10 @@ void frmVela_Haupt::lblSpieltagWahl_Click(int spieltag) {
 }
 
 void frmVela_Haupt::zeigeSpieltag(int spieltag) {
-    KlickLabel* alt = lblSpieltagWahl[static_cast<std::size_t>(pruefeIndex(m_spieltagWahlAlt, MaxSpieltage))];
+    KlickLabel* alt = lblSpieltagWahl[pruefeIndex(m_spieltagWahlAlt, MaxSpieltage)];
     setzeFarben(alt, Hellgelb, Qt::black);
     setzeFett(alt, false);
-    KlickLabel* neu = lblSpieltagWahl[static_cast<std::size_t>(pruefeIndex(spieltag, MaxSpieltage))];
+    KlickLabel* neu = lblSpieltagWahl[pruefeIndex(spieltag, MaxSpieltage)];
     setzeFarben(neu, QColor(255, 0, 0), Qt::white);
     setzeFett(neu, true);
     m_spiel.AktSpieltag = static_cast<i16>(spieltag);
@@ -629,9 +628,7 @@ void frmVela_Haupt::feld_LostFocus(Eingabefeld* feld) {
 }
 
 void frmVela_Haupt::lblTeam_Click(int spiel, int seite) {
-    Eingabefeld* feld =
-        (seite == 0 ? txtHeimErgebnis
-                    : txtAusErgebnis)[static_cast<std::size_t>(pruefeIndex(spiel, MaxSpiele))];
+    Eingabefeld* feld = (seite == 0 ? txtHeimErgebnis : txtAusErgebnis)[pruefeIndex(spiel, MaxSpiele)];
     stelleFokusfeldWiederHer();
     feld->setText(QString::number(plus16(zahlAusText(feld->text().toStdString()), 1)));
     const int team = m_spiel.getPaarung(m_spiel.AktSpieltag, spiel, seite);
