@@ -137,8 +137,8 @@ void frmVela_Haupt::erzeugeSpieltagswahl(QWidget* mitte) {
     }
 }
 
-Eingabefeld* frmVela_Haupt::eingabefeld(QWidget* eltern, const QString& name, int art) {
-    auto* feld = new Eingabefeld(eltern, static_cast<Eingabefeld::Art>(art));
+Eingabefeld* frmVela_Haupt::eingabefeld(QWidget* eltern, const QString& name, Eingabefeld::Art art) {
+    auto* feld = new Eingabefeld(eltern, art);
     feld->setObjectName(name);
     connect(feld, &Eingabefeld::fokusErhalten, this, sicher([this, feld] { feld_GotFocus(feld); }));
     connect(feld, &Eingabefeld::fokusVerloren, this, sicher([this, feld] { feld_LostFocus(feld); }));

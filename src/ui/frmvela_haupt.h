@@ -4,6 +4,7 @@
 #include <array>
 #include <functional>
 
+#include "eingabefeld.h"
 #include "hauptmenue.h"
 #include "scoring/auswahl.h"
 #include "state/spielstand.h"
@@ -21,7 +22,6 @@ namespace kalimbo::ui {
 
 class Blitztabelle;
 class Dialoge;
-class Eingabefeld;
 class KlickLabel;
 class Tipptabellen;
 
@@ -79,7 +79,7 @@ class frmVela_Haupt : public QMainWindow {
     void erzeugeUntereRahmen(QWidget* mitte);
     void verbindeMenue();
     void setzeTabReihenfolge();
-    Eingabefeld* eingabefeld(QWidget* eltern, const QString& name, int art);
+    Eingabefeld* eingabefeld(QWidget* eltern, const QString& name, Eingabefeld::Art art);
     std::function<void()> sicher(std::function<void()> handler);
 
     // Handlers.
