@@ -1,0 +1,43 @@
+#pragma once
+
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "state/spielstand.h"
+
+namespace kalimbo::cli {
+
+// Wrong use of the command line: the message (may be empty) is printed with the usage, exit 2.
+struct Gebrauchsfehler {
+    std::string meldung;
+};
+
+// The arguments of one command split into positional ones, "--name value" options and "--name"
+// switches.
+struct Aufruf {
+    std::vector<std::string> werte;
+    std::map<std::string, std::string> optionen;
+    std::set<std::string> schalter;
+
+    bool hat(const std::string& schalterName) const { return schalter.count(schalterName) > 0; }
+};
+
+// Splits `argumente`; `mitWert` names the options that take a value, `schalter` the switches.
+// Throws Gebrauchsfehler for an unknown option or an option without its value.
+Aufruf zerlege(const std::vector<std::string>& argumente, const std::vector<std::string>& mitWert,
+               const std::vector<std::string>& schalter = {});
+
+// Throws Gebrauchsfehler unless exactly `anzahl` positional arguments were given.
+void erwarteWerte(const Aufruf& a, std::size_t anzahl);
+
+// A whole number argument in minimum..maximum; throws Gebrauchsfehler naming `was` otherwise.
+int ganzeZahl(const std::string& text, int minimum, int maximum, const std::string& was);
+
+// The game at `pfad` in the state the main window shows after opening it: the last selected
+// matchday shown, evaluated, and the matchday view drawn (non-participants' points of the shown
+// matchday read -1). Throws Dateifehler or Laufzeitfehler.
+Spielstand geoeffnetWieImFenster(const std::string& pfad);
+
+}  // namespace kalimbo::cli
