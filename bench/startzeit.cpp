@@ -9,7 +9,7 @@
 #include <chrono>
 #include <cstdio>
 
-#include "ui/dialoge.h"
+#include "ui/bausteine/dialoge.h"
 #include "ui/frmvela_haupt.h"
 
 namespace {

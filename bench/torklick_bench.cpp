@@ -6,9 +6,9 @@
 #include <QLabel>
 #include <QTest>
 
-#include "ui/dialoge.h"
-#include "ui/eingabefeld.h"
+#include "ui/bausteine/dialoge.h"
 #include "ui/frmvela_haupt.h"
+#include "ui/haupt/eingabefeld.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include <QApplication>
 
-#include "ui/dialoge.h"
+#include "ui/bausteine/dialoge.h"
 #include "ui/frmvela_haupt.h"
 
 // kalimbo [SPIEL.tip]

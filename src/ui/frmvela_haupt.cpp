@@ -14,19 +14,19 @@
 #include <QPushButton>
 #include <QScreen>
 
-#include "blitztabelle.h"
-#include "dialoge.h"
-#include "eingabefeld.h"
-#include "farben.h"
-#include "fehlergrenze.h"
-#include "klicklabel.h"
 #include "scoring/auswertung.h"
 #include "scoring/regeln.h"
 #include "state/eintraege.h"
 #include "state/spieldatei.h"
 #include "state/zahltext.h"
-#include "tipptabellen.h"
-#include "twips.h"
+#include "ui/bausteine/dialoge.h"
+#include "ui/bausteine/farben.h"
+#include "ui/bausteine/fehlergrenze.h"
+#include "ui/bausteine/klicklabel.h"
+#include "ui/bausteine/twips.h"
+#include "ui/haupt/blitztabelle.h"
+#include "ui/haupt/eingabefeld.h"
+#include "ui/haupt/tipptabellen.h"
 
 namespace kalimbo::ui {
 

@@ -4,11 +4,11 @@
 #include <array>
 #include <functional>
 
-#include "eingabefeld.h"
-#include "hauptmenue.h"
 #include "scoring/auswahl.h"
 #include "state/spielstand.h"
-#include "zuletztliste.h"
+#include "ui/haupt/eingabefeld.h"
+#include "ui/haupt/hauptmenue.h"
+#include "ui/haupt/zuletztliste.h"
 
 class QCheckBox;
 class QFrame;

@@ -18,8 +18,8 @@
 
 #include "state/spieldatei.h"
 #include "testdialoge.h"
-#include "ui/eingabefeld.h"
-#include "ui/twips.h"
+#include "ui/bausteine/twips.h"
+#include "ui/haupt/eingabefeld.h"
 
 using namespace kalimbo;
 using namespace kalimbo::ui;

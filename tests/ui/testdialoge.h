@@ -2,7 +2,7 @@
 
 #include <QStringList>
 
-#include "ui/dialoge.h"
+#include "ui/bausteine/dialoge.h"
 
 namespace kalimbo::ui::test {
 

@@ -2,9 +2,9 @@
 
 #include <QTime>
 
-#include "farben.h"
-#include "klicklabel.h"
-#include "twips.h"
+#include "ui/bausteine/farben.h"
+#include "ui/bausteine/klicklabel.h"
+#include "ui/bausteine/twips.h"
 
 namespace kalimbo::ui {
 

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-#include "dialoge.h"
 #include "state/fehler.h"
+#include "ui/bausteine/dialoge.h"
 
 namespace kalimbo::ui {
 

@@ -2,7 +2,7 @@
 
 #include <QLabel>
 
-#include "twips.h"
+#include "ui/bausteine/twips.h"
 
 namespace kalimbo::ui {
 
