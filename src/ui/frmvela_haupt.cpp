@@ -20,6 +20,7 @@
 #include "state/spieldatei.h"
 #include "state/zahltext.h"
 #include "ui/bausteine/dialoge.h"
+#include "ui/bausteine/elemente.h"
 #include "ui/bausteine/farben.h"
 #include "ui/bausteine/fehlergrenze.h"
 #include "ui/bausteine/klicklabel.h"
@@ -47,28 +48,6 @@ const QColor Auswahlfarbe(255, 204, 51);
 
 std::filesystem::path pfadVon(const QString& pfad) {
     return QFile::encodeName(pfad).toStdString();
-}
-
-QString text(const std::string& s) {
-    return QString::fromStdString(s);
-}
-
-template <class W>
-W* element(QWidget* eltern, const QString& name, const QRect& ort) {
-    auto* w = new W(eltern);
-    w->setObjectName(name);
-    w->setGeometry(ort);
-    return w;
-}
-
-QString indexName(const char* name, int index) {
-    return QStringLiteral("%1_%2").arg(QString::fromUtf8(name)).arg(index);
-}
-
-void setzeFett(QWidget* w, bool fett) {
-    QFont f = w->font();
-    f.setBold(fett);
-    w->setFont(f);
 }
 
 void setzeZahl(QLabel* l, i16 wert) {
