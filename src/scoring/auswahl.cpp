@@ -28,6 +28,15 @@ Auswahlergebnis abgelehnt(std::string text) {
     return {std::move(text), {}};
 }
 
+// Why the current matchday cannot be used to choose from, or "" when it can.
+std::string ohneAktuellenSpieltag(const Spielstand& s) {
+    if (s.AktSpieltagGlobal == KeinAktuellerSpieltag) return "Es ist kein aktueller Spieltag gesetzt.";
+    if (s.AktSpieltagGlobal < 0 || s.AktSpieltagGlobal > s.AnzSpieltage)
+        return "Der aktuelle Spieltag " + std::to_string(s.AktSpieltagGlobal) +
+               " liegt außerhalb der Saison (0 bis " + std::to_string(s.AnzSpieltage) + ").";
+    return {};
+}
+
 }  // namespace
 
 Auswahlergebnis schalteSpieltag(Spielstand& s, int spieltag) {
@@ -60,6 +69,7 @@ Auswahlergebnis waehleRueckrunde(Spielstand& s) {
 }
 
 Auswahlergebnis waehleAlleAbsolvierten(Spielstand& s) {
+    if (auto grund = ohneAktuellenSpieltag(s); !grund.empty()) return abgelehnt(std::move(grund));
     const int aktuell = s.AktSpieltagGlobal;
     return aendere(s, [&](Flaggen& f) {
         setze(f, 0, aktuell, 1);
@@ -69,6 +79,7 @@ Auswahlergebnis waehleAlleAbsolvierten(Spielstand& s) {
 
 // Unlike the half-season choices, this one finds the second half from the number of matchdays.
 Auswahlergebnis waehleAbsolvierteRueckrunde(Spielstand& s) {
+    if (auto grund = ohneAktuellenSpieltag(s); !grund.empty()) return abgelehnt(std::move(grund));
     const int letzter = s.AnzSpieltage;
     return aendere(s, [&](Flaggen& f) {
         setze(f, 0, letzter, 0);
@@ -80,6 +91,7 @@ Auswahlergebnis waehleLetzte(Spielstand& s, int anzahl) {
     const int aktuell = s.AktSpieltagGlobal;
     if (aktuell <= anzahl - 2 || aktuell == KeinAktuellerSpieltag)
         return abgelehnt("Es wurden noch keine " + std::to_string(anzahl) + " Spieltage absolviert.");
+    if (auto grund = ohneAktuellenSpieltag(s); !grund.empty()) return abgelehnt(std::move(grund));
     return aendere(s, [&](Flaggen& f) {
         setze(f, 0, aktuell - anzahl, 0);
         setze(f, aktuell - anzahl + 1, aktuell, 1);
@@ -90,9 +102,12 @@ Auswahlergebnis waehleLetzte(Spielstand& s, int anzahl) {
 Auswahlergebnis waehleTrainerperiode(Spielstand& s, int trainer) {
     const Trainerdaten& periode = s.Trainerwechsel[trainer];
     const bool offen = periode.BisSpieltag == KeinAktuellerSpieltag;
-    if (offen && s.AktSpieltagGlobal == KeinAktuellerSpieltag)
-        return abgelehnt("Es ist kein aktueller Spieltag gesetzt.");
+    if (offen) {
+        if (auto grund = ohneAktuellenSpieltag(s); !grund.empty()) return abgelehnt(std::move(grund));
+    }
     const int bis = offen ? s.AktSpieltagGlobal : periode.BisSpieltag;
+    if (periode.VonSpieltag < 0 || bis >= MaxSpieltage)
+        return abgelehnt("Der Trainerwechsel „" + periode.Name + "“ nennt Spieltage außerhalb der Saison.");
     return aendere(s, [&](Flaggen& f) {
         setze(f, 0, s.AnzSpieltage, 0);
         setze(f, periode.VonSpieltag, bis, 1);

@@ -16,7 +16,9 @@ struct Auswahlergebnis {
 
 // In the descriptions: L = AnzSpieltage (the last matchday index), C = AktSpieltagGlobal (the
 // current matchday, 99 = none), M = AnzSpiele, so that 0..2M is the first half of the season.
-// A choice that would reach a matchday outside 0..37 throws Laufzeitfehler::Index and changes nothing.
+// The choices that count from C are refused with a message, changing nothing, when C is 99 ("Es ist
+// kein aktueller Spieltag gesetzt.") or outside 0..L. Any other choice that would reach a matchday
+// outside 0..37 throws Laufzeitfehler::Index and changes nothing.
 
 // Toggles matchday `spieltag` 0..37: a selected one (flag 1) becomes 0, any other 1.
 Auswahlergebnis schalteSpieltag(Spielstand& s, int spieltag);
@@ -37,7 +39,7 @@ Auswahlergebnis waehleAbsolvierteRueckrunde(Spielstand& s);
 Auswahlergebnis waehleLetzte(Spielstand& s, int anzahl);
 // The matchdays of coach period `trainer` 0..9: deselects 0..L, selects VonSpieltag..BisSpieltag,
 // where BisSpieltag 99 means up to C. An open period while C is 99 is refused with
-// "Es ist kein aktueller Spieltag gesetzt.".
+// "Es ist kein aktueller Spieltag gesetzt."; a period reaching outside 0..37 is refused too.
 Auswahlergebnis waehleTrainerperiode(Spielstand& s, int trainer);
 
 // The matchday a freshly opened game shows: the highest of 0..37 with SptgAuswerten 1, 0 if none.

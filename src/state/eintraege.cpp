@@ -25,4 +25,12 @@ void uebernimmEintraege(Spielstand& spiel, const Spieltagseintraege& e) {
         spiel.Tipp[p][tag] = tipp[p];
 }
 
+void uebernimmAktuellenSpieltag(Spielstand& spiel, std::string_view aktuell, std::string_view sonntag0,
+                                std::string_view sonntag1) {
+    const i16 tag = zahlAusText(aktuell);
+    const Feld<i16, 2> sonntag{{zahlAusText(sonntag0), zahlAusText(sonntag1)}};
+    spiel.AktSpieltagGlobal = tag;
+    spiel.SonntagSpiele = sonntag;
+}
+
 }  // namespace kalimbo

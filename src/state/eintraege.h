@@ -2,6 +2,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 
 #include "spielstand.h"
 
@@ -24,5 +25,11 @@ struct Spieltagseintraege {
 // tip is always taken. Every text is read first: a number outside the 16-bit range throws
 // Laufzeitfehler::Ueberlauf and nothing is changed.
 void uebernimmEintraege(Spielstand& spiel, const Spieltagseintraege& eintraege);
+
+// Takes the current matchday and the two Sunday match numbers as typed (read as numbers, stored
+// as they are: the current matchday counts from 0, 99 = none). All three are read first: a number
+// outside the 16-bit range throws Laufzeitfehler::Ueberlauf and nothing is changed.
+void uebernimmAktuellenSpieltag(Spielstand& spiel, std::string_view aktuell, std::string_view sonntag0,
+                                std::string_view sonntag1);
 
 }  // namespace kalimbo

@@ -1,32 +1,27 @@
 #pragma once
 
 #include <QMainWindow>
-#include <array>
 #include <functional>
 
 #include "scoring/auswahl.h"
 #include "state/spielstand.h"
-#include "ui/haupt/eingabefeld.h"
 #include "ui/haupt/hauptmenue.h"
 #include "ui/haupt/zuletztliste.h"
 
-class QCheckBox;
-class QFrame;
-class QGroupBox;
-class QLabel;
-class QLineEdit;
-class QPlainTextEdit;
-class QPushButton;
-
 namespace kalimbo::ui {
 
+class Bedienfeld;
 class Blitztabelle;
 class Dialoge;
-class KlickLabel;
+class Infobox;
+class Spieltagsansicht;
+class Spieltagswahl;
 class Tipptabellen;
 
-// The main window: owns the game, shows one matchday with its results, tips and points, the
-// running league table and the players' rankings, and carries the menus.
+// The main window: owns the game, composes the panels that show it (the matchday selector row,
+// the matchday view with its controls, the running league table, the players' rankings and the
+// information box), carries the menus and opens the other windows. Its handlers take what the
+// user typed into the game, run the core's operations and let the panels draw the result.
 class frmVela_Haupt : public QMainWindow {
     Q_OBJECT
   public:
@@ -40,79 +35,56 @@ class frmVela_Haupt : public QMainWindow {
     void zeigeBeimStart();
     static bool startMaximiert(int bildschirmhoehe) { return bildschirmhoehe < 768; }
 
+    // The only ways other windows change the game: the own rule's points and colours of hit kind
+    // `art` 0..2, and the players' names, colours and participation.
+    void setModus(int art, i16 punkte);
+    void setFarbeMod(int art, Farbe farbe);
+    void HoleSpielerDaten(const SpielerDatenQuelle& quelle);
+
   private:
     Dialoge& m_dialoge;
     Spielstand m_spiel;
     ZuletztListe m_zuletzt;
     Hauptmenue m_menue{};
-    QString m_blitzAnlass;
-    int m_spieltagWahlAlt = 0;
     int m_ausgewaehlterSpieler = 0;
-    std::array<i16, 4> m_wertBeiFokus{};  // value of the box that took the focus, per Eingabefeld::Art
 
-    std::array<KlickLabel*, MaxSpieltage> lblSpieltagWahl{}, lblAuswahl{};
-    std::array<KlickLabel*, MaxSpiele> lblHeimTeam{}, lblAusTeam{};
-    std::array<QLabel*, MaxSpiele> lblStrich{};
-    std::array<Eingabefeld*, MaxSpiele> txtHeimErgebnis{}, txtAusErgebnis{};
-    std::array<Eingabefeld*, MaxSpieler * MaxSpiele> txtHeimTipp{}, txtAusTipp{};
-    std::array<QFrame*, MaxSpieler> fraSpielerSaeule{};
-    std::array<KlickLabel*, MaxSpieler> lblSpieler{};
-    std::array<QLabel*, MaxSpieler> lblSptgPunkte{}, lblSptgPlatz{}, lblGesamtPunkte{}, lblGesamtPlatz{};
-    std::array<QFrame*, 2> shpSonntag{};
-    std::array<QLineEdit*, 2> txtSonntag{};
-    QFrame* fraSpiele = nullptr;
-    QFrame* linTrenn = nullptr;
-    QLabel *lblQuoten = nullptr, *lblSptgZeile = nullptr, *lblGesamtZeile = nullptr;
-    QCheckBox* chkSonntag = nullptr;
-    QLineEdit* txtAktSpieltag = nullptr;
-    QPushButton *cmdSonntag = nullptr, *cmdAuswerten = nullptr;
-    Blitztabelle* fraBlitztabelle = nullptr;
-    Tipptabellen* fraTabelle = nullptr;
-    QGroupBox* fraTeamInfo = nullptr;
-    QPlainTextEdit* txtTeamInfo = nullptr;
+    Spieltagswahl* m_wahl;
+    Spieltagsansicht* m_ansicht;
+    Bedienfeld* m_bedienfeld;
+    Blitztabelle* m_blitztabelle;
+    Tipptabellen* m_tipptabellen;
+    Infobox* m_infobox;
 
-    // Building the window.
-    void erzeugeSpieltagswahl(QWidget* mitte);
-    void erzeugeSpieltagsansicht(QWidget* mitte);
-    void erzeugeSpielerspalte(int spieler);
-    void erzeugeBedienfeld();
-    void erzeugeUntereRahmen(QWidget* mitte);
+    void baueFenster();
+    void verbindePanels();
     void verbindeMenue();
-    void setzeTabReihenfolge();
-    Eingabefeld* eingabefeld(QWidget* eltern, const QString& name, Eingabefeld::Art art);
+    void verbinde(QAction* aktion, std::function<void()> handler);
     std::function<void()> sicher(std::function<void()> handler);
 
-    // Handlers.
+    // Files.
     void menOeffnen_Click();
     void menSpeichern_Click();
-    void menRecent_Click(int slot);
-    void menReg_Click(i16 modus);
-    void menDieserTrainer_Click(int trainer);
-    void cmdAuswerten_Click();
-    void cmdSonntag_Click();
-    void lblSpieltagWahl_Click(int spieltag);
-    void zeigeSpieltag(int spieltag);
-    void lblAuswahl_Click(int spieltag);
-    void lblTeam_Click(int spiel, int seite);
-    void lblSpieler_Click(int spieler);
-    void feld_GotFocus(Eingabefeld* feld);
-    void feld_LostFocus(Eingabefeld* feld);
-    void stelleFokusfeldWiederHer();
-    void waehleSpieltage(Auswahlergebnis (*operation)(Spielstand&));
-    void zeigeAuswahl(const Auswahlergebnis& ergebnis);
+    void menRecent_Click(int eintrag);
+    void nachDemOeffnen(const QString& pfad, const QString& titel, const Dateiinhalt& inhalt);
+    void setzeAktuelleDatei(const QString& pfad, bool alsSpeicherziel);
+    void zeigeZuletztMenue();
 
-    // What the handlers share.
+    // The game on screen.
+    void wendeSpielAn();
+    void zeigeRegelhaken();
+    void zeigeTrainermenue();
+    void passeLayoutAn();
     void ShowMatchday();
     void TakeEntries();
+    void lblSpieltagWahl_Click(int spieltag);
+    void blaettere(int schritt);
     void auswerten(const QString& anlass);
-    void nachDemOeffnen(const QString& pfad, const QString& titel, const Dateiinhalt& inhalt);
-    void wendeSpielAn();
-    void zeigeTrainermenue();
-    void setzeLayout();
-    void aktualisiereZuletztMenue();
-    void aktualisiereRegelHaken();
-    void zeigeAktuellenSpieltag();
-    void aktualisiereTitel(const QString& datei);
+    void lblTeam_Click(int spiel, int seite);
+    void lblSpieler_Click(int spieler);
+    void cmdSonntag_Click();
+    void menReg_Click(i16 modus);
+    void zeigeAuswahl(const Auswahlergebnis& ergebnis);
+    void geaendert();
 };
 
 }  // namespace kalimbo::ui

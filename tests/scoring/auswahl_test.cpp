@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <tuple>
 
 #include "testdaten.h"
 
@@ -106,13 +107,6 @@ TEST(Auswahl, ZweimalKlickenStelltWiederHer) {
 
 TEST(Auswahl, WasAusDenSpieltagenLaeuftAendertNichts) {
     const std::vector<std::pair<const char*, Wahl>> faelle{
-        {"AlleAbsolviertenOhneAktuellenSpieltag", waehleAlleAbsolvierten},
-        {"AbsolvierteRueckrundeOhneAktuellenSpieltag", waehleAbsolvierteRueckrunde},
-        {"AktuellerSpieltagJenseitsDerGrenzen",
-         [](Spielstand& s) {
-             s.AktSpieltagGlobal = 40;
-             return waehleLetzte(s, 3);
-         }},
         {"ZuVieleSpieltage",
          [](Spielstand& s) {
              s.AnzSpieltage = 38;
@@ -125,11 +119,6 @@ TEST(Auswahl, WasAusDenSpieltagenLaeuftAendertNichts) {
          }},
         {"Spieltag38", [](Spielstand& s) { return schalteSpieltag(s, 38); }},
         {"Trainer10", [](Spielstand& s) { return waehleTrainerperiode(s, 10); }},
-        {"TrainerAbSpieltagMinusEins",
-         [](Spielstand& s) {
-             s.Trainerwechsel[0] = {1, "A", -1, 3};
-             return waehleTrainerperiode(s, 0);
-         }},
     };
     for (const auto& [name, wahl] : faelle) {
         Spielstand s = saison(38, 99, "2-6, 30");
@@ -139,6 +128,35 @@ TEST(Auswahl, WasAusDenSpieltagenLaeuftAendertNichts) {
         } catch (const Laufzeitfehler& e) {
             EXPECT_EQ(e.code(), Laufzeitfehler::Index) << name;
         }
+        EXPECT_EQ(test::auswahl(s), "2-6, 30") << name;
+    }
+}
+
+// Choices that count from the current matchday, or from a coach period, say why they cannot be
+// made when the matchdays they name are not in the season, and change nothing.
+TEST(Auswahl, OhneBrauchbarenAktuellenSpieltagAbgelehnt) {
+    const char* const ohne = "Es ist kein aktueller Spieltag gesetzt.";
+    const char* const jenseits = "Der aktuelle Spieltag 40 liegt außerhalb der Saison (0 bis 37).";
+    const std::vector<std::tuple<const char*, i16, Wahl, std::string>> faelle{
+        {"AlleAbsolvierten", 99, waehleAlleAbsolvierten, ohne},
+        {"AbsolvierteRueckrunde", 99, waehleAbsolvierteRueckrunde, ohne},
+        {"AlleAbsolviertenJenseits", 40, waehleAlleAbsolvierten, jenseits},
+        {"AbsolvierteRueckrundeJenseits", 40, waehleAbsolvierteRueckrunde, jenseits},
+        {"LetzteJenseits", 40, letzte(3), jenseits},
+        {"OffenerTrainerJenseits", 40, [](Spielstand& s) { return waehleTrainerperiode(s, 1); }, jenseits},
+        {"TrainerAbSpieltagMinusEins", 5, [](Spielstand& s) { return waehleTrainerperiode(s, 0); },
+         "Der Trainerwechsel „A“ nennt Spieltage außerhalb der Saison."},
+        {"TrainerBisSpieltag38", 5, [](Spielstand& s) { return waehleTrainerperiode(s, 2); },
+         "Der Trainerwechsel „C“ nennt Spieltage außerhalb der Saison."},
+    };
+    for (const auto& [name, aktuell, wahl, meldung] : faelle) {
+        Spielstand s = saison(38, aktuell, "2-6, 30");
+        s.Trainerwechsel[0] = {1, "A", -1, 3};
+        s.Trainerwechsel[1] = {1, "B", 3, 99};
+        s.Trainerwechsel[2] = {1, "C", 3, 38};
+        const Auswahlergebnis e = wahl(s);
+        EXPECT_EQ(e.ablehnung, meldung) << name;
+        EXPECT_TRUE(e.geaendert.none()) << name;
         EXPECT_EQ(test::auswahl(s), "2-6, 30") << name;
     }
 }

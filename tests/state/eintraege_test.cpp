@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
+#include "state/tabellenfarben.h"
+
 namespace kalimbo {
 namespace {
 
@@ -68,6 +72,34 @@ TEST(UebernimmEintraege, UeberlaufAendertNichts) {
     }
     EXPECT_EQ(s.Tipp, vorher);
     EXPECT_EQ(s.Ergebnis[0][0][0], 0);
+}
+
+TEST(UebernimmAktuellenSpieltag, NimmtDieZahlenWieGetipptUndBeiUeberlaufNichts) {
+    Spielstand s;
+    uebernimmAktuellenSpieltag(s, "24", "7", " 8");
+    EXPECT_EQ(s.AktSpieltagGlobal, 24);
+    EXPECT_EQ(s.SonntagSpiele[0], 7);
+    EXPECT_EQ(s.SonntagSpiele[1], 8);
+    uebernimmAktuellenSpieltag(s, "", "x", "3");  // empty and non-numeric read as 0
+    EXPECT_EQ(s.AktSpieltagGlobal, 0);
+    EXPECT_EQ(s.SonntagSpiele[0], 0);
+    EXPECT_EQ(s.SonntagSpiele[1], 3);
+    for (const auto& [akt, s0, s1] : {std::tuple{"99999", "1", "2"}, {"5", "1", "-40000"}}) {
+        EXPECT_THROW(uebernimmAktuellenSpieltag(s, akt, s0, s1), Laufzeitfehler);
+        EXPECT_EQ(s.AktSpieltagGlobal, 0);
+        EXPECT_EQ(s.SonntagSpiele[1], 3);
+    }
+}
+
+TEST(PositionsHinweis, NurDieSechsFarbenDerLigaHabenEinen) {
+    EXPECT_EQ(positionsHinweis(rgb(255, 0, 0)), "Meister");
+    EXPECT_EQ(positionsHinweis(rgb(245, 183, 35)), "Champions-League-Platz");
+    EXPECT_EQ(positionsHinweis(rgb(255, 204, 51)), "Champions-League-Qualifikation");
+    EXPECT_EQ(positionsHinweis(rgb(255, 255, 0)), "UEFA-Pokal-Platz");
+    EXPECT_EQ(positionsHinweis(rgb(255, 255, 192)), "Mittelmaß");
+    EXPECT_EQ(positionsHinweis(rgb(255, 255, 255)), "Abstiegsplatz");
+    for (const Farbe andere : {rgb(0, 0, 255), rgb(254, 255, 255), rgb(255, 0, 1), 0})
+        EXPECT_EQ(positionsHinweis(andere), "");
 }
 
 }  // namespace

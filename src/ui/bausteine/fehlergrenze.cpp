@@ -1,21 +1,27 @@
 #include "fehlergrenze.h"
 
-#include <QString>
+#include <new>
 
 #include "state/fehler.h"
 #include "ui/bausteine/dialoge.h"
 
 namespace kalimbo::ui {
 
+QString fehlermeldung(const std::exception& fehler) {
+    if (const auto* laufzeit = dynamic_cast<const Laufzeitfehler*>(&fehler))
+        return QStringLiteral("Laufzeitfehler '%1':\n\n%2")
+            .arg(laufzeit->code())
+            .arg(QString::fromUtf8(fehler.what()));
+    if (dynamic_cast<const std::bad_alloc*>(&fehler))
+        return QStringLiteral("Nicht genügend Arbeitsspeicher.");
+    return QString::fromUtf8(fehler.what());
+}
+
 void fangeFehler(QWidget* eltern, Dialoge& dialoge, const std::function<void()>& handler) {
     try {
         handler();
-    } catch (const Laufzeitfehler& e) {
-        dialoge.meldung(
-            eltern,
-            QStringLiteral("Laufzeitfehler '%1':\n\n%2").arg(e.code()).arg(QString::fromUtf8(e.what())));
     } catch (const std::exception& e) {
-        dialoge.meldung(eltern, QString::fromUtf8(e.what()));
+        dialoge.meldung(eltern, fehlermeldung(e));
     }
 }
 

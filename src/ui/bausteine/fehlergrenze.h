@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+#include <exception>
 #include <functional>
 
 class QWidget;
@@ -8,8 +10,12 @@ namespace kalimbo::ui {
 
 class Dialoge;
 
-// Runs one event handler. An error thrown by the core (a runtime error with its number, or a
-// file error) ends the handler and is shown in a message box; the application keeps running.
+// The German text shown for an error of the core: a runtime error with its number
+// ("Laufzeitfehler '6':" and its text), a file error with its own message.
+QString fehlermeldung(const std::exception& fehler);
+
+// Runs one event handler. An error thrown by the core ends the handler and is shown in a message
+// box; the application keeps running.
 void fangeFehler(QWidget* eltern, Dialoge& dialoge, const std::function<void()>& handler);
 
 }  // namespace kalimbo::ui

@@ -1,14 +1,14 @@
 #pragma once
 
-#include <QLabel>
+#include "beschriftung.h"
 
 namespace kalimbo::ui {
 
-// A label that reports a click with the left mouse button.
-class KlickLabel : public QLabel {
+// A label that reports a click with the left mouse button; a text too long for it is cut off.
+class KlickLabel : public Beschriftung {
     Q_OBJECT
   public:
-    using QLabel::QLabel;
+    using Beschriftung::Beschriftung;
 
   signals:
     void geklickt();

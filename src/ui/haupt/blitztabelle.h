@@ -1,41 +1,32 @@
 #pragma once
 
 #include <QGroupBox>
-#include <array>
 
 #include "state/spielstand.h"
 
-class QLabel;
-
 namespace kalimbo::ui {
 
-class KlickLabel;
+class Ligatabelle;
 
-// The running league table ("Blitztabelle"): twenty rows, one per table position.
+// The running league table ("Blitztabelle"): the league table of the last evaluation with its
+// cause and time of day in the caption.
 class Blitztabelle : public QGroupBox {
     Q_OBJECT
   public:
     explicit Blitztabelle(QWidget* eltern);
 
     // After a game was loaded: names by team index, empty figures, the rows of the league shown,
-    // each position in its colour with the hint belonging to that colour.
+    // each position in its colour with the hint belonging to that colour (a colour without a hint
+    // keeps the hint the position had).
     void wendeSpielAn(const Spielstand& spiel);
-    // Every team at the row of its table position, with the cause and time in the caption.
+    // Every team at the row of its table position; the caption names `anlass` and the time of day
+    // in the user's format.
     void zeige(const Spielstand& spiel, const QString& anlass);
 
-  signals:
-    void teamGeklickt(int zeile);
+    Ligatabelle* tabelle() const { return m_tabelle; }
 
   private:
-    std::array<QLabel*, MaxTeams> lblTabellenplatz{};
-    std::array<KlickLabel*, MaxTeams> lblTabName{};
-    std::array<QLabel*, MaxTeams> lblTabPunkte{}, lblTabTore{}, lblTabDifferenz{}, lblTabSiege{}, lblTabUn{},
-        lblTabNiederlagen{};
-
-    void zeigeZeile(int zeile, bool sichtbar);
+    Ligatabelle* m_tabelle;
 };
-
-// Hint of a table position by its colour; empty for colours without one.
-QString positionsHinweis(Farbe farbe);
 
 }  // namespace kalimbo::ui

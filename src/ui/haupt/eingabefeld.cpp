@@ -11,6 +11,10 @@ namespace kalimbo::ui {
 
 namespace {
 
+constexpr i16 Ruecktaste = 8;
+
+// Focus that leaves the window only for a moment (another window, an open menu): the box stays
+// in editing.
 bool nurKurzzeitig(Qt::FocusReason grund) {
     return grund == Qt::ActiveWindowFocusReason || grund == Qt::PopupFocusReason;
 }
@@ -29,9 +33,24 @@ void Eingabefeld::setText(const QString& text) {
     update();
 }
 
-// Typing or pasting may leave at most one character in the box.
+// Every character, typed or pasted, through the key filter, as far as the box takes characters.
 void Eingabefeld::tippe(const QString& text) {
-    if (m_text.size() + text.size() <= 1) setText(m_text + text);
+    const qsizetype hoechstens = istTipp() ? 1 : 5;
+    QString neu = m_text;
+    for (const QChar c : text) {
+        const i16 taste = tastenfilter(static_cast<i16>(std::min<int>(c.unicode(), 32767)));
+        if (taste == Ruecktaste)
+            neu.chop(1);
+        else if (neu.size() < hoechstens)
+            neu += QChar(taste);
+    }
+    if (neu == m_text) return;
+    if (neu.toInt() > INT16_MAX) {
+        emit ueberlauf();
+        return;
+    }
+    setText(neu);
+    emit geaendert();
 }
 
 void Eingabefeld::keyPressEvent(QKeyEvent* ereignis) {
@@ -49,11 +68,7 @@ void Eingabefeld::keyPressEvent(QKeyEvent* ereignis) {
         QWidget::keyPressEvent(ereignis);
         return;
     }
-    const auto taste = tastenfilter(static_cast<i16>(std::min<int>(text.at(0).unicode(), 32767)));
-    if (taste == 8)
-        setText(m_text.chopped(std::min<qsizetype>(1, m_text.size())));
-    else
-        tippe(QString(QChar(taste)));
+    tippe(text.left(1));
 }
 
 void Eingabefeld::paintEvent(QPaintEvent*) {
@@ -73,13 +88,17 @@ void Eingabefeld::paintEvent(QPaintEvent*) {
 void Eingabefeld::focusInEvent(QFocusEvent* ereignis) {
     QWidget::focusInEvent(ereignis);
     update();
-    if (!nurKurzzeitig(ereignis->reason())) emit fokusErhalten();
+    if (m_bearbeitung) return;
+    m_bearbeitung = true;
+    emit bearbeitungBeginnt();
 }
 
 void Eingabefeld::focusOutEvent(QFocusEvent* ereignis) {
     QWidget::focusOutEvent(ereignis);
     update();
-    if (!nurKurzzeitig(ereignis->reason())) emit fokusVerloren();
+    if (!m_bearbeitung || nurKurzzeitig(ereignis->reason())) return;
+    m_bearbeitung = false;
+    emit bearbeitungEndet();
 }
 
 }  // namespace kalimbo::ui

@@ -4,12 +4,18 @@
 
 namespace kalimbo::ui {
 
-// A result or tip box of the matchday view: a small painted box for one score. Typed keys go
-// through the key filter (a non-digit types "0"), and at most one character can be typed or
-// pasted; text set by the program may be longer (a stored 12 shows as "12" and is read back
-// unchanged). Reports gaining and losing the focus by the user, not when the window or a menu
-// takes it for a moment. The window has 200 of these, which is why they are not line edits:
-// creating and painting that many line edits would double the time to the first picture.
+// A result or tip box of the matchday view: a small painted box for one score. Typed and pasted
+// characters go through the key filter (a non-digit types "0"); a tip box takes one typed
+// character, a result box up to five as long as the number stays within 32767. Text set by the program may be
+// longer (a stored 12 shows as "12" and is read back unchanged).
+//
+// The box is being edited from the moment it gets the focus, whichever way (a click, Tab, the
+// window being activated), until the focus moves elsewhere in the window: a switch to another
+// window or a menu opening for a moment does not end the editing. The window is told when
+// editing begins and ends, and when the user changed the text.
+//
+// The window has 200 of these, which is why they are not line edits: creating and painting that
+// many line edits would double the time to the first picture.
 class Eingabefeld : public QWidget {
     Q_OBJECT
   public:
@@ -17,13 +23,18 @@ class Eingabefeld : public QWidget {
 
     Eingabefeld(QWidget* eltern, Art art);
     Art art() const { return m_art; }
+    bool istTipp() const { return m_art == HeimTipp || m_art == AusTipp; }
     const QString& text() const { return m_text; }
     void setText(const QString& text);
     void clear() { setText(QString()); }
+    bool wirdBearbeitet() const { return m_bearbeitung; }
 
   signals:
-    void fokusErhalten();
-    void fokusVerloren();
+    void bearbeitungBeginnt();
+    void bearbeitungEndet();
+    void geaendert();
+    // A typed digit would have made the result larger than a score can be (32767): not taken.
+    void ueberlauf();
 
   protected:
     void paintEvent(QPaintEvent* ereignis) override;
@@ -36,6 +47,7 @@ class Eingabefeld : public QWidget {
 
     Art m_art;
     QString m_text;
+    bool m_bearbeitung = false;
 };
 
 }  // namespace kalimbo::ui

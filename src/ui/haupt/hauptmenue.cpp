@@ -33,6 +33,7 @@ QAction* haken(QMenu* m, const QString& name, const QString& titel) {
 Hauptmenue baueHauptmenue(QMenuBar* leiste) {
     Hauptmenue h{};
     QMenu* datei = menue(leiste, "menDatei", QStringLiteral("&Datei"));
+    datei->setToolTipsVisible(true);  // the recent files show their full path
     h.menOeffnen = eintrag(datei, "menOeffnen", QStringLiteral("Öffnen"), QKeySequence::Open);
     h.menSpeichern = eintrag(datei, "menSpeichern", QStringLiteral("Speichern"), QKeySequence::Save);
     QMenu* importieren = menue(datei, "menImportieren", QStringLiteral("Importieren"));

@@ -1,27 +1,28 @@
 #include "tipptabellen.h"
 
-#include <QLabel>
-
+#include "ui/bausteine/beschriftung.h"
+#include "ui/bausteine/elemente.h"
 #include "ui/bausteine/twips.h"
 
 namespace kalimbo::ui {
 
 namespace {
 
-QLabel* label(QWidget* eltern, const QString& name, const QRect& ort, Qt::Alignment ausrichtung) {
-    auto* l = new QLabel(eltern);
-    l->setObjectName(name);
-    l->setGeometry(ort);
+constexpr auto Links = Qt::AlignLeft | Qt::AlignVCenter;
+constexpr auto Rechts = Qt::AlignRight | Qt::AlignVCenter;
+
+template <class L>
+L* zelle(QWidget* eltern, const char* name, int zeile, int links, int breite, Qt::Alignment ausrichtung) {
+    auto* l = element<L>(eltern, indexName(name, zeile), rechteck(links, 480 + 240 * zeile, breite, 240));
     l->setAlignment(ausrichtung);
     return l;
 }
 
 QLabel* ueberschrift(QWidget* eltern, const QString& name, const QString& text, int links) {
-    QLabel* l = label(eltern, name, rechteck(links, 240, 1800, 240), Qt::AlignLeft | Qt::AlignVCenter);
+    auto* l = element<QLabel>(eltern, name, rechteck(links, 240, 1800, 240));
     l->setText(text);
-    QFont f = l->font();
-    f.setBold(true);
-    l->setFont(f);
+    l->setAlignment(Links);
+    setzeFett(l, true);
     return l;
 }
 
@@ -32,17 +33,33 @@ Tipptabellen::Tipptabellen(QWidget* eltern) : QGroupBox(QStringLiteral("Tipptabe
     lblSptgstabelle =
         ueberschrift(this, QStringLiteral("lblSptgstabelle"), QStringLiteral("Spieltag 1"), 120);
     ueberschrift(this, QStringLiteral("lblGesamttabelleKopf"), QStringLiteral("Gesamt"), 1980);
-    const auto links = Qt::AlignLeft | Qt::AlignVCenter;
-    const auto rechts = Qt::AlignRight | Qt::AlignVCenter;
     for (int z = 0; z < MaxSpieler; ++z) {
-        const int oben = 480 + 240 * z;
-        const QString n = QString::number(z);
-        lblSptgTabelle[z] = label(this, "lblSptgTabelle_" + n, rechteck(120, oben, 1320, 240), links);
-        lblSptgTabellePkt[z] = label(this, "lblSptgTabellePkt_" + n, rechteck(1440, oben, 420, 240), rechts);
-        lblGesamttabelle[z] = label(this, "lblGesamttabelle_" + n, rechteck(1980, oben, 1320, 240), links);
-        lblGesamttabellePkt[z] =
-            label(this, "lblGesamttabellePkt_" + n, rechteck(3300, oben, 420, 240), rechts);
+        lblSptgTabelle[z] = zelle<Beschriftung>(this, "lblSptgTabelle", z, 120, 1320, Links);
+        lblSptgTabellePkt[z] = zelle<QLabel>(this, "lblSptgTabellePkt", z, 1440, 420, Rechts);
+        lblGesamttabelle[z] = zelle<Beschriftung>(this, "lblGesamttabelle", z, 1980, 1320, Links);
+        lblGesamttabellePkt[z] = zelle<QLabel>(this, "lblGesamttabellePkt", z, 3300, 420, Rechts);
     }
+}
+
+void Tipptabellen::zeige(const Spielstand& spiel) {
+    const int m = spiel.getAktSpieltag();
+    for (int p = 0; p < MaxSpieler; ++p) {
+        const SpielerAuswertung& r = spiel.Auswertung[p];
+        const auto s = pruefeIndex(r.SptgSortierplatz[m], MaxSpieler);
+        const auto g = pruefeIndex(r.Sortierplatz, MaxSpieler);
+        const bool spielt = spiel.getTeilnehmer(p) == 1;
+        lblSptgTabellePkt[s]->setText(QString::number(spiel.getSpieltagPunkte(p, m)));
+        if (spielt) {
+            const QString name = QStringLiteral("  ") + text(spiel.getSpielerName(p));
+            lblSptgTabelle[s]->setText(name);
+            lblGesamttabelle[g]->setText(name);
+            lblGesamttabellePkt[g]->setText(QString::number(spiel.getGesamtPunkte(p)));
+        }
+        for (QLabel* l : {static_cast<QLabel*>(lblSptgTabelle[s]), lblSptgTabellePkt[s],
+                          static_cast<QLabel*>(lblGesamttabelle[g]), lblGesamttabellePkt[g]})
+            l->setVisible(spielt);
+    }
+    lblSptgstabelle->setText(QStringLiteral("Spieltag %1").arg(m + 1));
 }
 
 }  // namespace kalimbo::ui

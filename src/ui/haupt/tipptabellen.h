@@ -9,6 +9,8 @@ class QLabel;
 
 namespace kalimbo::ui {
 
+class Beschriftung;
+
 // The two small rankings of the players: points of the shown matchday and total points, one
 // row per position.
 class Tipptabellen : public QGroupBox {
@@ -16,8 +18,14 @@ class Tipptabellen : public QGroupBox {
   public:
     explicit Tipptabellen(QWidget* eltern);
 
-    std::array<QLabel*, MaxSpieler> lblSptgTabelle{}, lblSptgTabellePkt{}, lblGesamttabelle{},
-        lblGesamttabellePkt{};
+    // The rankings of matchday AktSpieltag from the evaluation records: every participant in the
+    // row of his position, "  " before the name; the rows of the others hidden (the matchday row
+    // keeps their points). The heading names the matchday.
+    void zeige(const Spielstand& spiel);
+
+  private:
+    std::array<Beschriftung*, MaxSpieler> lblSptgTabelle{}, lblGesamttabelle{};
+    std::array<QLabel*, MaxSpieler> lblSptgTabellePkt{}, lblGesamttabellePkt{};
     QLabel* lblSptgstabelle = nullptr;
 };
 

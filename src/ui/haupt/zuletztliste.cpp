@@ -7,39 +7,45 @@ namespace kalimbo::ui {
 
 namespace {
 
-const std::array<const char*, 6> Schluessel{"Datei1", "Datei2", "Datei3", "Datei1b", "Datei2b", "Datei3b"};
-
 // The settings store with the list's group opened.
 struct Einstellungen {
     QSettings s{QStringLiteral("zorb 5.0"), QStringLiteral("Kalimbo")};
     Einstellungen() { s.beginGroup(QStringLiteral("Letzten Dateien")); }
 };
 
+QString pfadSchluessel(std::size_t i) {
+    return QStringLiteral("Datei%1").arg(i + 1);
+}
+QString titelSchluessel(std::size_t i) {
+    return QStringLiteral("Datei%1b").arg(i + 1);
+}
+
 }  // namespace
 
 void ZuletztListe::laden() {
     Einstellungen e;
     for (std::size_t i = 0; i < eintraege.size(); ++i)
-        eintraege[i] = e.s.value(Schluessel[i]).toString();
+        eintraege[i] = {e.s.value(pfadSchluessel(i)).toString(), e.s.value(titelSchluessel(i)).toString()};
 }
 
-void ZuletztListe::hinzufuegen(const QString& pfad, const QString& name) {
+void ZuletztListe::hinzufuegen(const QString& pfad, const QString& titel) {
     auto& e = eintraege;
-    if (pfad == e[1]) {
+    if (pfad == e[1].pfad)
         std::swap(e[0], e[1]);
-        std::swap(e[3], e[4]);
-    } else if (pfad == e[2]) {
-        e = {e[2], e[0], e[1], e[5], e[3], e[4]};
-    } else if (pfad != e[0]) {
-        e = {pfad, e[0], e[1], name, e[3], e[4]};
-    }
+    else if (pfad == e[2].pfad)
+        e = {e[2], e[0], e[1]};
+    else if (pfad != e[0].pfad)
+        e = {Eintrag{pfad, titel}, e[0], e[1]};
     schreiben();
 }
 
+// All six keys, the paths first, as the list has always been stored.
 void ZuletztListe::schreiben() const {
     Einstellungen e;
     for (std::size_t i = 0; i < eintraege.size(); ++i)
-        e.s.setValue(Schluessel[i], eintraege[i]);
+        e.s.setValue(pfadSchluessel(i), eintraege[i].pfad);
+    for (std::size_t i = 0; i < eintraege.size(); ++i)
+        e.s.setValue(titelSchluessel(i), eintraege[i].titel);
 }
 
 }  // namespace kalimbo::ui

@@ -5,17 +5,22 @@
 
 namespace kalimbo::ui {
 
-// The three game files used last: slots 0..2 hold full paths (newest first), slots 3..5 their
-// display names. Kept in the settings store under "zorb 5.0" / "Letzten Dateien".
+// The three game files used last, newest first, each with the name shown in the menu. Kept in
+// the settings store under "zorb 5.0" / "Letzten Dateien": paths as "Datei1".."Datei3", names as
+// "Datei1b".."Datei3b".
 class ZuletztListe {
   public:
-    std::array<QString, 6> eintraege;
+    struct Eintrag {
+        QString pfad, titel;
+        friend bool operator==(const Eintrag&, const Eintrag&) = default;
+    };
+    std::array<Eintrag, 3> eintraege;
 
-    // Reads the six keys "Datei1".."Datei3", "Datei1b".."Datei3b"; a missing key reads as "".
+    // Reads the six keys; a missing key reads as "".
     void laden();
-    // Puts the file at the head of the list (a file already in slot 1 or 2 moves up and keeps
-    // its stored display name) and writes all six keys.
-    void hinzufuegen(const QString& pfad, const QString& name);
+    // Puts the file at the head of the list (a file already second or third moves up and keeps
+    // its stored name) and writes all six keys.
+    void hinzufuegen(const QString& pfad, const QString& titel);
 
   private:
     void schreiben() const;

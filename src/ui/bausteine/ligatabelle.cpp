@@ -1,0 +1,94 @@
+#include "ligatabelle.h"
+
+#include "elemente.h"
+#include "klicklabel.h"
+#include "twips.h"
+
+namespace kalimbo::ui {
+
+namespace {
+
+struct Spalte {
+    const char* name;
+    int links, breite;
+    const char* kopf;
+    Qt::Alignment ausrichtung;
+};
+constexpr auto Rechts = Qt::AlignRight | Qt::AlignVCenter;
+constexpr std::array<Spalte, 8> Spalten{{
+    {"lblTabellenplatz", 120, 330, "Pl.", Qt::AlignCenter},
+    {"lblTabName", 510, 2280, "Mannschaft", Qt::AlignLeft | Qt::AlignVCenter},
+    {"lblTabPunkte", 2850, 480, "Pkt.", Rechts},
+    {"lblTabTore", 3390, 690, "Tore", Qt::AlignCenter},
+    {"lblTabDifferenz", 4140, 480, "Diff.", Rechts},
+    {"lblTabSiege", 4740, 360, "S", Rechts},
+    {"lblTabUn", 5160, 360, "U", Rechts},
+    {"lblTabNiederlagen", 5580, 360, "N", Rechts},
+}};
+constexpr int ErsteZeile = 240;
+constexpr int Zeilenhoehe = 240;
+
+QString zelle(const TabInfo& info) {
+    if (const auto* zahl = std::get_if<i16>(&info)) return QString::number(*zahl);
+    if (const auto* s = std::get_if<std::string>(&info)) return text(*s);
+    return {};
+}
+
+}  // namespace
+
+Ligatabelle::Ligatabelle(QWidget* eltern, int ersterIndex) : QWidget(eltern) {
+    std::array<std::array<QLabel*, MaxTeams>*, 8> spalten{&lblTabellenplatz, nullptr,           &lblTabPunkte,
+                                                          &lblTabTore,       &lblTabDifferenz,  &lblTabSiege,
+                                                          &lblTabUn,         &lblTabNiederlagen};
+    for (std::size_t s = 0; s < Spalten.size(); ++s) {
+        const Spalte& sp = Spalten[s];
+        auto* kopf = element<QLabel>(this, QString(), rechteck(sp.links, 0, sp.breite, Zeilenhoehe));
+        kopf->setText(QString::fromUtf8(sp.kopf));
+        kopf->setAlignment(sp.ausrichtung);
+        setzeFett(kopf, true);
+        for (int z = 0; z < MaxTeams; ++z) {
+            const QRect ort = rechteck(sp.links, ErsteZeile + z * Zeilenhoehe, sp.breite, Zeilenhoehe);
+            const QString name = indexName(sp.name, ersterIndex + z);
+            QLabel* l = nullptr;
+            if (spalten[s]) {
+                l = (*spalten[s])[z] = element<QLabel>(this, name, ort);
+            } else {
+                auto* klick = element<KlickLabel>(this, name, ort);
+                klick->setCursor(Qt::PointingHandCursor);
+                connect(klick, &KlickLabel::geklickt, this, [this, z] { emit nameGeklickt(z); });
+                l = lblTabName[z] = klick;
+            }
+            l->setAlignment(sp.ausrichtung);
+        }
+    }
+    for (int z = 0; z < MaxTeams; ++z)
+        lblTabellenplatz[z]->setText(QString::number(z + 1));
+    resize(px(Spalten.back().links + Spalten.back().breite), px(ErsteZeile + MaxTeams * Zeilenhoehe));
+}
+
+std::array<QLabel*, 8> Ligatabelle::zeile(int z) const {
+    return {lblTabellenplatz[z], lblTabName[z],  lblTabPunkte[z], lblTabTore[z],
+            lblTabDifferenz[z],  lblTabSiege[z], lblTabUn[z],     lblTabNiederlagen[z]};
+}
+
+void Ligatabelle::setzeZeile(int z, const Zellen& zellen) {
+    const auto labels = zeile(static_cast<int>(pruefeIndex(z, MaxTeams)));
+    for (std::size_t s = 0; s < labels.size(); ++s)
+        labels[s]->setText(zellen[s]);
+}
+
+void Ligatabelle::zeigeZeilen(int anzahl) {
+    for (int z = 0; z < MaxTeams; ++z)
+        for (QLabel* l : zeile(z))
+            l->setVisible(z < anzahl);
+}
+
+Ligatabelle::Zellen tabellenzellen(const Spielstand& spiel, int team) {
+    Ligatabelle::Zellen zellen;
+    zellen[0] = QString::number(plus16(std::get<i16>(spiel.getTabInfo(team, 0)), 1));
+    for (int art = 1; art < 8; ++art)
+        zellen[static_cast<std::size_t>(art)] = zelle(spiel.getTabInfo(team, art));
+    return zellen;
+}
+
+}  // namespace kalimbo::ui

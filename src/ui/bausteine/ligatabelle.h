@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QWidget>
+#include <array>
+
+#include "state/spielstand.h"
+
+class QLabel;
+
+namespace kalimbo::ui {
+
+class Beschriftung;
+class KlickLabel;
+
+// A league table: column headings and twenty rows, one per place. The labels are named after the
+// columns with the row's number from `ersterIndex` on ("lblTabName_0".. or, for a second table in
+// the same window, "lblTabName_20"..), so tests and hints find them.
+class Ligatabelle : public QWidget {
+    Q_OBJECT
+  public:
+    // place, name, points, "goals:against", difference, wins, draws, losses
+    using Zellen = std::array<QString, 8>;
+
+    Ligatabelle(QWidget* eltern, int ersterIndex);
+
+    void setzeZeile(int zeile, const Zellen& zellen);
+    // Rows 0..anzahl-1 shown, the others hidden.
+    void zeigeZeilen(int anzahl);
+
+    std::array<QLabel*, MaxTeams> lblTabellenplatz{};
+    std::array<KlickLabel*, MaxTeams> lblTabName{};
+    std::array<QLabel*, MaxTeams> lblTabPunkte{}, lblTabTore{}, lblTabDifferenz{}, lblTabSiege{}, lblTabUn{},
+        lblTabNiederlagen{};
+
+  signals:
+    void nameGeklickt(int zeile);
+
+  private:
+    std::array<QLabel*, 8> zeile(int z) const;
+};
+
+// The cells of team `team` in the game's league table, through getTabInfo; the place shown is
+// one more than the 0-based position.
+Ligatabelle::Zellen tabellenzellen(const Spielstand& spiel, int team);
+
+}  // namespace kalimbo::ui

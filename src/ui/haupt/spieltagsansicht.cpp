@@ -1,0 +1,287 @@
+#include "spieltagsansicht.h"
+
+#include <QCheckBox>
+#include <QLabel>
+
+#include "state/zahltext.h"
+#include "ui/bausteine/elemente.h"
+#include "ui/bausteine/farben.h"
+#include "ui/bausteine/klicklabel.h"
+#include "ui/bausteine/twips.h"
+
+namespace kalimbo::ui {
+
+namespace {
+
+// Layout in twips, inside the frame.
+constexpr int ErsteSpielzeile = 720;  // top of match row 0
+constexpr int Zeilenhoehe = 360;
+constexpr int ErsteSpalte = 4920;  // left of the first player column
+constexpr int Spaltenabstand = 960;
+constexpr int SpalteOben = 480;  // top of a player column
+constexpr auto Links = Qt::AlignLeft | Qt::AlignVCenter;
+constexpr auto Rechts = Qt::AlignRight | Qt::AlignVCenter;
+
+bool istErgebnis(const Eingabefeld* feld) {
+    return !feld->istTipp();
+}
+
+void setzeNormaleFarben(Eingabefeld* feld) {
+    if (istErgebnis(feld))
+        setzeFarben(feld, Dunkelgrau, Qt::white);
+    else
+        setzeFarben(feld, Qt::white, Qt::black);
+}
+
+}  // namespace
+
+Spieltagsansicht::Spieltagsansicht(QWidget* eltern) : QFrame(eltern) {
+    setObjectName(QStringLiteral("fraSpiele"));
+    setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    for (const auto& [titel, x, breite, ausrichtung] :
+         {std::tuple{"Heim", 120, 1830, QFlags(Rechts)}, std::tuple{"Gast", 2100, 1860, QFlags(Links)},
+          std::tuple{"Ergebnis", 4020, 795, QFlags(Qt::AlignCenter)}}) {
+        auto* kopf = element<QLabel>(this, QString(), rechteck(x, 480, breite, 240));
+        kopf->setText(QString::fromUtf8(titel));
+        kopf->setAlignment(ausrichtung);
+        setzeFett(kopf, true);
+    }
+    for (int j = 0; j < 2; ++j) {
+        QFrame* rahmen = shpSonntag[j] = element<QFrame>(this, indexName("shpSonntag", j),
+                                                         rechteck(60, ErsteSpielzeile, 4755, Zeilenhoehe));
+        rahmen->setFrameStyle(QFrame::Box | QFrame::Plain);
+        rahmen->setLineWidth(2);
+        rahmen->setStyleSheet(QStringLiteral("color: rgb(0, 0, 179);"));
+        rahmen->setAttribute(Qt::WA_TransparentForMouseEvents);
+        rahmen->hide();
+    }
+    for (int k = 0; k < MaxSpiele; ++k)
+        erzeugeSpiel(k);
+    linTrenn = element<QFrame>(this, QStringLiteral("linTrenn"), rechteck(4845, 480, 30, 4320 - 480));
+    linTrenn->setFrameStyle(QFrame::VLine | QFrame::Sunken);
+    lblSptgZeile = element<QLabel>(this, QStringLiteral("lblSptgZeile"), rechteck(3000, 4320, 1800, 240));
+    lblSptgZeile->setText(QStringLiteral("Spieltag:"));
+    lblGesamtZeile = element<QLabel>(this, QStringLiteral("lblGesamtZeile"), rechteck(3000, 4560, 1800, 240));
+    lblGesamtZeile->setText(QStringLiteral("Gesamt:"));
+    for (QLabel* l : {lblSptgZeile, lblGesamtZeile}) {
+        l->setAlignment(Rechts);
+        l->setToolTip(QStringLiteral("Punkte und Platz"));
+    }
+    chkSonntag = element<QCheckBox>(this, QStringLiteral("chkSonntag"), rechteck(120, 4440, 2850, 300));
+    chkSonntag->setText(QStringLiteral("Sonntagsspiele nicht auswerten"));
+    chkSonntag->hide();
+    for (int p = 0; p < MaxSpieler; ++p)
+        erzeugeSpielerspalte(p);
+}
+
+Eingabefeld* Spieltagsansicht::eingabefeld(QWidget* eltern, const char* name, int index,
+                                           Eingabefeld::Art art) {
+    auto* feld = new Eingabefeld(eltern, art);
+    feld->setObjectName(indexName(name, index));
+    connect(feld, &Eingabefeld::bearbeitungBeginnt, this, [this, feld] { feld_GotFocus(feld); });
+    connect(feld, &Eingabefeld::bearbeitungEndet, this, [this, feld] { feld_LostFocus(feld); });
+    connect(feld, &Eingabefeld::geaendert, this, &Spieltagsansicht::bearbeitet);
+    connect(feld, &Eingabefeld::ueberlauf, this, &Spieltagsansicht::ueberlauf);
+    return feld;
+}
+
+void Spieltagsansicht::erzeugeSpiel(int k) {
+    const int oben = ErsteSpielzeile + k * Zeilenhoehe + 30;
+    lblHeimTeam[k] = element<KlickLabel>(this, indexName("lblHeimTeam", k), rechteck(120, oben, 1830, 300));
+    lblHeimTeam[k]->setAlignment(Rechts);
+    lblStrich[k] = element<QLabel>(this, indexName("lblStrich", k), rechteck(1950, oben, 150, 300));
+    lblStrich[k]->setText(QStringLiteral("-"));
+    lblStrich[k]->setAlignment(Qt::AlignCenter);
+    lblAusTeam[k] = element<KlickLabel>(this, indexName("lblAusTeam", k), rechteck(2100, oben, 1860, 300));
+    lblAusTeam[k]->setAlignment(Links);
+    for (int seite = 0; seite < 2; ++seite) {
+        KlickLabel* team = seite == 0 ? lblHeimTeam[k] : lblAusTeam[k];
+        team->setCursor(Qt::PointingHandCursor);
+        team->setToolTip(QStringLiteral("Klick: ein Tor für diese Mannschaft"));
+        connect(team, &KlickLabel::geklickt, this, [this, k, seite] { emit teamGeklickt(k, seite); });
+    }
+    txtHeimErgebnis[k] = eingabefeld(this, "txtHeimErgebnis", k, Eingabefeld::HeimErgebnis);
+    txtHeimErgebnis[k]->setGeometry(rechteck(4080, oben, 315, 300));
+    txtAusErgebnis[k] = eingabefeld(this, "txtAusErgebnis", k, Eingabefeld::AusErgebnis);
+    txtAusErgebnis[k]->setGeometry(rechteck(4440, oben, 315, 300));
+    setzeNormaleFarben(txtHeimErgebnis[k]);
+    setzeNormaleFarben(txtAusErgebnis[k]);
+}
+
+void Spieltagsansicht::erzeugeSpielerspalte(int p) {
+    auto* saeule = element<QFrame>(this, indexName("fraSpielerSäule", p),
+                                   rechteck(ErsteSpalte + p * Spaltenabstand, SpalteOben, 735, 4380));
+    fraSpielerSaeule[p] = saeule;
+    lblSpieler[p] = element<KlickLabel>(saeule, indexName("lblSpieler", p), rechteck(0, 0, 735, 240));
+    lblSpieler[p]->setAlignment(Qt::AlignCenter);
+    lblSpieler[p]->setCursor(Qt::PointingHandCursor);
+    lblSpieler[p]->setToolTip(QStringLiteral("Spielerinformationen anzeigen"));
+    setzeFett(lblSpieler[p], true);
+    connect(lblSpieler[p], &KlickLabel::geklickt, this, [this, p] { emit spielerGeklickt(p); });
+    for (int k = 0; k < MaxSpiele; ++k) {
+        const int i = p * MaxSpiele + k;
+        const int oben = 240 + k * Zeilenhoehe + 30;
+        txtHeimTipp[i] = eingabefeld(saeule, "txtHeimTipp", i, Eingabefeld::HeimTipp);
+        txtHeimTipp[i]->setGeometry(rechteck(15, oben, 345, 300));
+        txtAusTipp[i] = eingabefeld(saeule, "txtAusTipp", i, Eingabefeld::AusTipp);
+        txtAusTipp[i]->setGeometry(rechteck(375, oben, 345, 300));
+    }
+    auto zahl = [&](const char* name, int links, int oben) {
+        auto* l = element<QLabel>(saeule, indexName(name, p), rechteck(links, oben, 345, 240));
+        l->setAlignment(Qt::AlignCenter);
+        return l;
+    };
+    lblSptgPunkte[p] = zahl("lblSptgPunkte", 15, 3840);
+    lblSptgPlatz[p] = zahl("lblSptgPlatz", 375, 3840);
+    lblGesamtPunkte[p] = zahl("lblGesamtPunkte", 15, 4080);
+    lblGesamtPlatz[p] = zahl("lblGesamtPlatz", 375, 4080);
+    setzeFett(lblSptgPunkte[p], true);
+    setzeFett(lblGesamtPunkte[p], true);
+}
+
+std::vector<QWidget*> Spieltagsansicht::tabfolge() const {
+    std::vector<QWidget*> folge;
+    for (std::size_t k = 0; k < MaxSpiele; ++k)
+        folge.insert(folge.end(), {txtHeimErgebnis[k], txtAusErgebnis[k]});
+    // Tip field i takes tab positions 2i + 24 and 2i + 25: down one player's column, then the next.
+    for (std::size_t i = 0; i < txtHeimTipp.size(); ++i)
+        folge.insert(folge.end(), {txtHeimTipp[i], txtAusTipp[i]});
+    return folge;
+}
+
+void Spieltagsansicht::zeigeSpielernamen(const Spielstand& spiel) {
+    for (int p = 0; p < MaxSpieler; ++p)
+        lblSpieler[p]->setText(text(spiel.getSpielerName(p)));
+}
+
+void Spieltagsansicht::setzeLayout(const Saisonlayout& layout) {
+    const int k = MaxSpiele - 1;
+    for (QWidget* w : std::initializer_list<QWidget*>{lblHeimTeam[k], lblAusTeam[k], lblStrich[k],
+                                                      txtHeimErgebnis[k], txtAusErgebnis[k]})
+        w->setVisible(layout.zehnSpiele);
+    for (int p = 0; p < MaxSpieler; ++p) {
+        txtHeimTipp[p * MaxSpiele + k]->setVisible(layout.zehnSpiele);
+        txtAusTipp[p * MaxSpiele + k]->setVisible(layout.zehnSpiele);
+    }
+    linTrenn->resize(linTrenn->width(), px(layout.linienende - 480));
+    for (int p = 0; p < MaxSpieler; ++p) {
+        for (QLabel* l : {lblSptgPunkte[p], lblSptgPlatz[p]})
+            l->move(l->x(), px(layout.spieltagOben));
+        for (QLabel* l : {lblGesamtPunkte[p], lblGesamtPlatz[p]})
+            l->move(l->x(), px(layout.gesamtOben));
+    }
+    lblSptgZeile->move(lblSptgZeile->x(), px(SpalteOben + layout.spieltagOben));
+    lblGesamtZeile->move(lblGesamtZeile->x(), px(SpalteOben + layout.gesamtOben));
+}
+
+bool Spieltagsansicht::sonntagsspieleAuslassen() const {
+    return chkSonntag->isChecked();
+}
+
+void Spieltagsansicht::zeige(const Spielstand& spiel) {
+    const int m = spiel.getAktSpieltag();
+    const bool sonntag = spiel.getAktSpieltagGlobal() == m;
+    chkSonntag->setVisible(sonntag);
+    for (int j = 0; j < 2; ++j) {
+        if (sonntag)
+            shpSonntag[j]->move(shpSonntag[j]->x(),
+                                px(plus16(mal16(spiel.SonntagSpiele[j], Zeilenhoehe), ErsteSpielzeile)));
+        shpSonntag[j]->setVisible(sonntag);
+    }
+    zeigeSpiele(spiel, m);
+    zeigeSpieler(spiel, m);
+    zeigeTipps(spiel, m);
+    // A box still being edited keeps its look and now stands for the value just drawn into it.
+    if (Eingabefeld* feld = bearbeitetesFeld()) {
+        m_wertBeiFokus[feld->art()] = zahlAusText(feld->text().toStdString());
+        setzeFarben(feld, Rot, Qt::white);
+    }
+}
+
+void Spieltagsansicht::zeigeSpiele(const Spielstand& spiel, int m) {
+    for (int k = 0; k <= spiel.getAnzSpiele(); ++k) {
+        lblHeimTeam[k]->setText(text(spiel.getTeamName(spiel.getPaarung(m, k, 0))));
+        lblAusTeam[k]->setText(text(spiel.getTeamName(spiel.getPaarung(m, k, 1))));
+        txtHeimErgebnis[k]->setText(QString::number(spiel.getErgebnis(m, k, 0)));
+        txtAusErgebnis[k]->setText(QString::number(spiel.getErgebnis(m, k, 1)));
+        setzeNormaleFarben(txtHeimErgebnis[k]);
+        setzeNormaleFarben(txtAusErgebnis[k]);
+    }
+}
+
+// The participants' columns stand side by side without gaps, whatever their slots.
+void Spieltagsansicht::zeigeSpieler(const Spielstand& spiel, int m) {
+    int spalte = 0;
+    for (int p = 0; p < MaxSpieler; ++p) {
+        const bool spielt = spiel.getTeilnehmer(p) == 1;
+        fraSpielerSaeule[p]->setVisible(spielt);
+        if (!spielt) continue;
+        const SpielerAuswertung& r = spiel.Auswertung[p];
+        lblSptgPunkte[p]->setText(QString::number(r.SpieltagPunkte[m]));
+        lblSptgPlatz[p]->setText(QString::number(plus16(r.SptgPlatz[m], 1)));
+        lblGesamtPunkte[p]->setText(QString::number(r.GesamtPunkte));
+        lblGesamtPlatz[p]->setText(QString::number(plus16(r.Platz, 1)));
+        fraSpielerSaeule[p]->move(px(spalte * Spaltenabstand + ErsteSpalte), fraSpielerSaeule[p]->y());
+        ++spalte;
+    }
+}
+
+// Every one of the 90 tip fields, used or not, with the colour of the tip's hit.
+void Spieltagsansicht::zeigeTipps(const Spielstand& spiel, int m) {
+    for (std::size_t i = 0; i < txtHeimTipp.size(); ++i) {
+        const int p = static_cast<int>(i) / MaxSpiele;
+        const int k = static_cast<int>(i) % MaxSpiele;
+        txtHeimTipp[i]->setText(QString::number(spiel.getTipp(p, m, k, 0)));
+        txtAusTipp[i]->setText(QString::number(spiel.getTipp(p, m, k, 1)));
+        const QColor farbe = qfarbe(spiel.getSpielFarbe(p, m, k));
+        setzeFarben(txtHeimTipp[i], farbe, Qt::black);
+        setzeFarben(txtAusTipp[i], farbe, Qt::black);
+    }
+}
+
+// At most one box is being edited: editing ends when the focus moves to another box.
+Eingabefeld* Spieltagsansicht::bearbeitetesFeld() const {
+    for (const auto* feld : {&txtHeimErgebnis, &txtAusErgebnis})
+        for (Eingabefeld* f : *feld)
+            if (f->wirdBearbeitet()) return f;
+    for (const auto* feld : {&txtHeimTipp, &txtAusTipp})
+        for (Eingabefeld* f : *feld)
+            if (f->wirdBearbeitet()) return f;
+    return nullptr;
+}
+
+QString Spieltagsansicht::wertVon(const Eingabefeld* feld) const {
+    if (feld->wirdBearbeitet() && feld->text().isEmpty()) return QString::number(m_wertBeiFokus[feld->art()]);
+    return feld->text();
+}
+
+Spieltagseintraege Spieltagsansicht::eintraege() const {
+    Spieltagseintraege e;
+    for (std::size_t k = 0; k < MaxSpiele; ++k) {
+        e.heimErgebnis[k] = wertVon(txtHeimErgebnis[k]).toStdString();
+        e.ausErgebnis[k] = wertVon(txtAusErgebnis[k]).toStdString();
+    }
+    for (std::size_t i = 0; i < txtHeimTipp.size(); ++i) {
+        e.heimTipp[i] = wertVon(txtHeimTipp[i]).toStdString();
+        e.ausTipp[i] = wertVon(txtAusTipp[i]).toStdString();
+    }
+    return e;
+}
+
+void Spieltagsansicht::zaehleTor(int spiel, int seite) {
+    Eingabefeld* feld = (seite == 0 ? txtHeimErgebnis : txtAusErgebnis)[pruefeIndex(spiel, MaxSpiele)];
+    feld->setText(QString::number(plus16(zahlAusText(wertVon(feld).toStdString()), 1)));
+}
+
+void Spieltagsansicht::feld_GotFocus(Eingabefeld* feld) {
+    m_wertBeiFokus[feld->art()] = zahlAusText(feld->text().toStdString());
+    feld->clear();
+    setzeFarben(feld, Rot, Qt::white);
+}
+
+void Spieltagsansicht::feld_LostFocus(Eingabefeld* feld) {
+    if (feld->text().isEmpty()) feld->setText(QString::number(m_wertBeiFokus[feld->art()]));
+    setzeNormaleFarben(feld);
+}
+
+}  // namespace kalimbo::ui

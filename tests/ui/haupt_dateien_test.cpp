@@ -1,0 +1,211 @@
+// Opening and saving games from the main window: the recent-files list and its settings, the
+// file a save proposes, refused files, the window title, and what opening shows at once.
+#include <unistd.h>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QGroupBox>
+#include <QPushButton>
+#include <QSettings>
+
+#include "hauptfenster.h"
+#include "state/spieldatei.h"
+#include "ui/bausteine/uebersetzung.h"
+
+using namespace kalimbo;
+using namespace kalimbo::ui;
+using namespace kalimbo::ui::test;
+
+class HauptDateienTest : public QObject {
+    Q_OBJECT
+
+    static QStringList zuletztSchluessel() {
+        QSettings s(QStringLiteral("zorb 5.0"), QStringLiteral("Kalimbo"));
+        s.beginGroup(QStringLiteral("Letzten Dateien"));
+        QStringList werte;
+        for (const char* k : {"Datei1", "Datei2", "Datei3", "Datei1b", "Datei2b", "Datei3b"})
+            werte << (s.contains(k) ? s.value(k).toString() : QStringLiteral("<fehlt>"));
+        return werte;
+    }
+    static QStringList zuletztMenue(const Hauptfenster& h) {
+        return {h.aktion("menRecent_1")->text(), h.aktion("menRecent_2")->text(),
+                h.aktion("menRecent_3")->text()};
+    }
+    static QByteArray inhalt(const QString& pfad) {
+        QFile f(pfad);
+        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+    }
+
+  private slots:
+    void zuletztGeoeffneteDateien() {
+        Hauptfenster h;
+        QStringList pfade;
+        for (const char* name : {"A.tip", "B.tip", "C.tip"})
+            pfade << h.speichere(name, kleinesSpiel());
+        for (const QString& p : pfade)
+            h.oeffne(p);
+        QCOMPARE(zuletztMenue(h), (QStringList{"C.tip", "B.tip", "A.tip"}));
+        QCOMPARE(zuletztSchluessel(), (QStringList{pfade[2], pfade[1], pfade[0], "C.tip", "B.tip", "A.tip"}));
+        h.oeffne(pfade[1]);
+        QCOMPARE(zuletztMenue(h), (QStringList{"B.tip", "C.tip", "A.tip"}));
+        h.oeffne(pfade[0]);
+        QCOMPARE(zuletztMenue(h), (QStringList{"A.tip", "B.tip", "C.tip"}));
+
+        // Reopening the newest file moves nothing but still writes every key.
+        QSettings(QStringLiteral("zorb 5.0"), QStringLiteral("Kalimbo"))
+            .remove(QStringLiteral("Letzten Dateien/Datei3b"));
+        h.oeffne(pfade[0]);
+        QCOMPARE(zuletztSchluessel(), (QStringList{pfade[0], pfade[1], pfade[2], "A.tip", "B.tip", "C.tip"}));
+
+        // A recent file is read, but a later save still proposes the file opened last by dialog.
+        h.aktion("menRecent_3")->trigger();
+        QCOMPARE(zuletztMenue(h), (QStringList{"C.tip", "A.tip", "B.tip"}));
+        QCOMPARE(h.spiel().Dateipfad, pfade[0].toStdString());
+        h.aktion("menSpeichern")->trigger();  // cancelled
+        QCOMPARE(h.dialoge.vorschlaege, QStringList{pfade[0]});
+
+        h.neuStarten();  // the list survives
+        QCOMPARE(zuletztMenue(h), (QStringList{"C.tip", "A.tip", "B.tip"}));
+        QCOMPARE(h.aktion("menRecent_1")->toolTip(), pfade[2]);
+    }
+
+    void relativerPfadWirdAbsolutGemerkt() {
+        Hauptfenster h;
+        h.speichere("relativ.tip", kleinesSpiel());
+        const QString vorher = QDir::currentPath();
+        QDir::setCurrent(h.ordner.path());
+        h.oeffne("relativ.tip");
+        QDir::setCurrent(vorher);
+        const QString absolut = QDir(h.ordner.path()).absoluteFilePath("relativ.tip");
+        QCOMPARE(zuletztSchluessel()[0], absolut);
+        QCOMPARE(QString::fromStdString(h.spiel().Dateipfad), absolut);
+        h.oeffneSpiel();
+        h.aktion("menRecent_2")->trigger();  // from another folder
+        QCOMPARE(h.meldungen(), QStringList());
+        QCOMPARE(zuletztMenue(h)[0], QStringLiteral("relativ.tip"));
+    }
+
+    void kaufmannsUndImDateinamen() {
+        Hauptfenster h;
+        h.oeffne(h.speichere("Müller & Co.tip", kleinesSpiel()));
+        QAction* eintrag = h.aktion("menRecent_1");
+        QCOMPARE(eintrag->text(), QStringLiteral("Müller && Co.tip"));  // shown as one "&", no mnemonic
+        QCOMPARE(zuletztSchluessel()[3], QStringLiteral("Müller & Co.tip"));
+    }
+
+    void oeffnenZeigtDieAuswertungSofort() {
+        Hauptfenster h;
+        h.oeffneSpiel();
+        QCOMPARE(h.label("lblGesamtPunkte", Bernd)->text(), QStringLiteral("16"));
+        QCOMPARE(h.label("lblGesamttabelle", 0)->text(), QStringLiteral("  Bernd"));
+        QVERIFY(
+            h.kind<QGroupBox>("fraBlitztabelle")->title().startsWith(QStringLiteral("Blitztabelle [---, ")));
+        QCOMPARE(h.label("lblTabName", 1)->text(), QStringLiteral("Hamburg"));
+        QCOMPARE(h.label("lblTabPunkte", 1)->text(), QStringLiteral("6"));
+    }
+
+    void titelZeigtUngespeicherteAenderungen() {
+        Hauptfenster h;
+        QCOMPARE(h.fenster->windowTitle(), QStringLiteral("Kalimbo[*]"));
+        h.oeffneSpiel();
+        QCOMPARE(h.fenster->windowTitle(), QStringLiteral("spiel.tip[*] - Kalimbo"));
+        QVERIFY(!h.fenster->isWindowModified());
+        h.aktion("menReg2")->trigger();
+        QVERIFY(h.fenster->isWindowModified());
+        h.dialoge.antworten << h.ordner.filePath("neu.tip");
+        h.aktion("menSpeichern")->trigger();
+        QVERIFY(!h.fenster->isWindowModified());
+        QCOMPARE(h.fenster->windowTitle(), QStringLiteral("neu.tip[*] - Kalimbo"));
+        h.klick(h.label("lblAuswahl", 5));
+        QVERIFY(h.fenster->isWindowModified());
+        h.oeffneSpiel();
+        QVERIFY(!h.fenster->isWindowModified());
+        h.klick(h.label("lblHeimTeam", 0));
+        QVERIFY(h.fenster->isWindowModified());
+        h.oeffneSpiel();
+        QFocusEvent hinein(QEvent::FocusIn, Qt::MouseFocusReason);
+        QApplication::sendEvent(h.feld("txtHeimTipp", 0), &hinein);
+        QVERIFY(!h.fenster->isWindowModified());  // entering a box changes nothing
+        QTest::keyClick(h.feld("txtHeimTipp", 0), Qt::Key_4);
+        QVERIFY(h.fenster->isWindowModified());
+    }
+
+    void qtsDialogeSprechenDeutsch() {
+        QVERIFY(ladeQtUebersetzung(*QCoreApplication::instance(), QLocale(QLocale::German)));
+        QDialogButtonBox knoepfe(QDialogButtonBox::Cancel | QDialogButtonBox::Save);
+        QCOMPARE(knoepfe.button(QDialogButtonBox::Cancel)->text(), QStringLiteral("Abbrechen"));
+        QCOMPARE(knoepfe.button(QDialogButtonBox::Save)->text(), QStringLiteral("Speichern"));
+    }
+
+    void speichernUndWiederOeffnen() {
+        Hauptfenster h;
+        h.oeffneSpiel();
+        h.feld("txtHeimTipp", Anna * 10 + 6)->setText("6");
+        const QString ziel = h.ordner.filePath("gespeichert.tip");
+        h.dialoge.antworten << ziel;
+        h.aktion("menSpeichern")->trigger();
+        QCOMPARE(h.dialoge.titel.last(), QStringLiteral("Geben Sie den Namen der Datei zum Speichern ein!"));
+        QCOMPARE(h.dialoge.vorschlaege, QStringList{h.ordner.filePath("spiel.tip")});
+        QCOMPARE(h.spiel().Dateipfad, ziel.toStdString());
+        QCOMPARE(h.aktion("menRecent_1")->text(), QStringLiteral("gespeichert.tip"));
+
+        h.neuStarten();
+        h.oeffne(ziel);
+        QCOMPARE(h.spiel().getTipp(Anna, 1, 6, 0), 6);
+        QCOMPARE(h.feld("txtHeimTipp", Anna * 10 + 6)->text(), QStringLiteral("6"));
+        QCOMPARE(h.dialoge.titel.last(), QStringLiteral("Wählen Sie den gespeicherten Spielstand!"));
+    }
+
+    void beschaedigteOderFehlendeDateiLaesstDasSpielStehen() {
+        Hauptfenster h;
+        h.oeffneSpiel();
+        const QString kaputt = h.ordner.filePath("kaputt.tip");
+        QFile f(kaputt);
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write(QByteArray(5000, 'x'));
+        f.close();
+        h.oeffne(kaputt);
+        const QStringList meldungen = h.meldungen();
+        QCOMPARE(meldungen.size(), 1);
+        QVERIFY2(
+            meldungen[0].contains(QStringLiteral("kaputt.tip“ ist beschädigt oder keine Tippspiel-Datei")),
+            qPrintable(meldungen[0]));
+        QCOMPARE(h.spiel().Dateititel, std::string("spiel.tip"));
+        QCOMPARE(h.spiel().getTeamName(0), std::string("Aachen"));
+        QCOMPARE(h.aktion("menRecent_1")->text(), QStringLiteral("spiel.tip"));
+
+        const QString weg = h.speichere("weg.tip", kleinesSpiel(20));
+        h.oeffne(weg);
+        h.oeffneSpiel();
+        QFile::remove(weg);
+        h.aktion("menRecent_2")->trigger();
+        QVERIFY(h.meldungen().join("").contains(QStringLiteral("konnte nicht geöffnet werden")));
+        QCOMPARE(h.spiel().getAnzTeams(), 17);
+    }
+
+    void speichernAnEinenUnbeschreibbarenOrtLaesstDieAlteDatei() {
+        Hauptfenster h;
+        const QString nurLesen = h.ordner.filePath("nurlesen");
+        QVERIFY(QDir().mkdir(nurLesen));
+        const QString ziel = nurLesen + "/alt.tip";
+        speichereSpieldatei(QFile::encodeName(ziel).toStdString(), kleinesSpiel(20));
+        const QByteArray vorher = inhalt(ziel);
+        h.oeffneSpiel();
+        QFile::setPermissions(nurLesen, QFile::ReadOwner | QFile::ExeOwner);
+        h.dialoge.antworten << ziel;
+        // Root may write anywhere, so as root (as in CI) the save runs under an unprivileged user.
+        const bool root = geteuid() == 0;
+        if (root && seteuid(65534) != 0) QSKIP("cannot drop privileges");
+        h.aktion("menSpeichern")->trigger();
+        if (root) QVERIFY(seteuid(0) == 0);
+        QFile::setPermissions(nurLesen, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        const QStringList meldungen = h.meldungen();
+        QCOMPARE(meldungen.size(), 1);
+        QVERIFY(meldungen[0].contains(QStringLiteral("alt.tip“ konnte nicht gespeichert werden")));
+        QCOMPARE(inhalt(ziel), vorher);
+        QCOMPARE(h.spiel().Dateititel, std::string("spiel.tip"));
+        QCOMPARE(h.aktion("menRecent_1")->text(), QStringLiteral("spiel.tip"));
+    }
+};
+
+KALIMBO_UI_TEST_MAIN(HauptDateienTest)
+#include "haupt_dateien_test.moc"

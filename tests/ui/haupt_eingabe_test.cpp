@@ -1,0 +1,271 @@
+// Typing results and tips into the matchday view: the key filter, the focus rules that keep an
+// abandoned entry, "X" on a home tip, goal clicks, and numbers too large for a score.
+#include <QClipboard>
+#include <QGroupBox>
+
+#include "hauptfenster.h"
+
+using namespace kalimbo;
+using namespace kalimbo::ui;
+using namespace kalimbo::ui::test;
+
+class HauptEingabeTest : public QObject {
+    Q_OBJECT
+
+    static void fokus(QWidget* w, QEvent::Type art, Qt::FocusReason grund) {
+        QFocusEvent e(art, grund);
+        QApplication::sendEvent(w, &e);
+    }
+    // Enters a box as a click does: the box is emptied and waits for typing.
+    static void betrete(Eingabefeld* box) { fokus(box, QEvent::FocusIn, Qt::MouseFocusReason); }
+    static void verlasse(Eingabefeld* box) { fokus(box, QEvent::FocusOut, Qt::TabFocusReason); }
+
+  private slots:
+    void tastenfilter_data() {
+        QTest::addColumn<QString>("box");
+        QTest::addColumn<int>("taste");
+        QTest::addColumn<QString>("eingefuegt");  // clipboard text for Ctrl+V
+        QTest::addColumn<QString>("text");
+        QTest::newRow("Ziffer") << "txtHeimTipp" << int(Qt::Key_7) << ""
+                                << "7";
+        QTest::newRow("Buchstabe") << "txtHeimTipp" << int(Qt::Key_A) << ""
+                                   << "0";
+        QTest::newRow("Prozent") << "txtAusErgebnis" << int(Qt::Key_Percent) << ""
+                                 << "0";
+        QTest::newRow("Enter") << "txtAusTipp" << int(Qt::Key_Return) << ""
+                               << "0";
+        QTest::newRow("Esc") << "txtHeimErgebnis" << int(Qt::Key_Escape) << ""
+                             << "0";
+        QTest::newRow("Leertaste") << "txtHeimTipp" << int(Qt::Key_Space) << ""
+                                   << "0";
+        QTest::newRow("Minus") << "txtHeimErgebnis" << int(Qt::Key_Minus) << ""
+                               << "0";
+        QTest::newRow("eingefügtes X") << "txtHeimTipp" << int(Qt::Key_V) << "X"
+                                       << "0";
+        QTest::newRow("eingefügtes Minus") << "txtAusTipp" << int(Qt::Key_V) << "-"
+                                           << "0";
+        QTest::newRow("eingefügte Ziffer") << "txtAusTipp" << int(Qt::Key_V) << "4"
+                                           << "4";
+        QTest::newRow("eingefügt im Tipp") << "txtAusTipp" << int(Qt::Key_V) << "12"
+                                           << "1";
+        QTest::newRow("eingefügt im Ergebnis") << "txtAusErgebnis" << int(Qt::Key_V) << "12a"
+                                               << "120";
+    }
+    void tastenfilter() {
+        QFETCH(QString, box);
+        QFETCH(int, taste);
+        QFETCH(QString, eingefuegt);
+        Hauptfenster h;
+        h.oeffneSpiel();
+        Eingabefeld* feld = h.feld(box.toUtf8().constData(), 2);
+        betrete(feld);
+        QCOMPARE(feld->text(), QString());
+        if (eingefuegt.isEmpty()) {
+            QTest::keyClick(feld, Qt::Key(taste));
+        } else {
+            QGuiApplication::clipboard()->setText(eingefuegt);
+            QTest::keyClick(feld, Qt::Key_V, Qt::ControlModifier);
+        }
+        QTEST(feld->text(), "text");
+    }
+
+    void tippfeldNimmtEinZeichenErgebnisfeldMehrere() {
+        Hauptfenster h;
+        h.oeffneSpiel();
+        Eingabefeld* tipp = h.feld("txtHeimTipp", 5);
+        betrete(tipp);
+        QTest::keyClicks(tipp, "12");
+        QCOMPARE(tipp->text(), QStringLiteral("1"));
+        Eingabefeld* ergebnis = h.feld("txtHeimErgebnis", 5);
+        betrete(ergebnis);
+        QTest::keyClicks(ergebnis, "10");
+        QCOMPARE(ergebnis->text(), QStringLiteral("10"));
+        verlasse(ergebnis);
+        h.auswerten();
+        QCOMPARE(h.spiel().getErgebnis(1, 5, 0), 10);
+    }
+
+    void verlassenesFeldBehaeltSeinenWert_data() {
+        QTest::addColumn<QString>("box");
+        QTest::addColumn<QColor>("hintergrund");
+        QTest::addColumn<QColor>("schrift");
+        QTest::newRow("Heimergebnis") << "txtHeimErgebnis" << QColor(64, 64, 64) << QColor(Qt::white);
+        QTest::newRow("Auswärtsergebnis") << "txtAusErgebnis" << QColor(64, 64, 64) << QColor(Qt::white);
+        QTest::newRow("Heimtipp") << "txtHeimTipp" << QColor(Qt::white) << QColor(Qt::black);
+        QTest::newRow("Auswärtstipp") << "txtAusTipp" << QColor(Qt::white) << QColor(Qt::black);
+    }
+    void verlassenesFeldBehaeltSeinenWert() {
+        QFETCH(QString, box);
+        Hauptfenster h;
+        h.oeffneSpiel();
+        Eingabefeld* feld = h.feld(box.toUtf8().constData(), 1);  // match 1 of matchday 1: 2:2
+        const QString vorher = feld->text();
+        QVERIFY(vorher != QStringLiteral("0") || box.contains("Tipp"));
+        betrete(feld);
+        QCOMPARE(feld->palette().color(QPalette::Base), QColor(255, 0, 0));
+        QCOMPARE(feld->palette().color(QPalette::Text), QColor(Qt::white));
+        verlasse(feld);
+        QCOMPARE(feld->text(), vorher);
+        QTEST(feld->palette().color(QPalette::Base), "hintergrund");
+        QTEST(feld->palette().color(QPalette::Text), "schrift");
+
+        betrete(feld);
+        QTest::keyClick(feld, Qt::Key_9);
+        QTest::keyClick(feld, Qt::Key_Backspace);  // cleared again: the old value comes back
+        verlasse(feld);
+        QCOMPARE(feld->text(), vorher);
+    }
+
+    // The focus may come without a click (the window is activated, a dialog closes): the box then
+    // enters editing just the same, so that Backspace and Tab cannot store a stale value.
+    void fokusOhneKlickBeginntDieEingabe() {
+        Hauptfenster h;
+        h.oeffneSpiel();
+        Eingabefeld* andere = h.feld("txtAusErgebnis", 0);  // 0 on matchday 1
+        betrete(andere);
+        verlasse(andere);
+        Eingabefeld* feld = h.feld("txtHeimErgebnis", 1);  // 2 on matchday 1
+        fokus(feld, QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+        QTest::keyClick(feld, Qt::Key_Backspace);
+        verlasse(feld);
+        QCOMPARE(feld->text(), QStringLiteral("2"));
+        h.auswerten();
+        QCOMPARE(h.spiel().getErgebnis(1, 1, 0), 2);
+    }
+
+    // Switching to another window while typing keeps what was typed and the box in editing.
+    void fensterwechselBehaeltDieEingabe() {
+        Hauptfenster h;
+        h.oeffneSpiel();
+        h.fenster->show();
+        QApplication::setActiveWindow(h.fenster.get());
+        QVERIFY(QTest::qWaitForWindowActive(h.fenster.get()));
+        Eingabefeld* feld = h.feld("txtHeimErgebnis", 3);
+        h.klick(feld);
+        QVERIFY(feld->hasFocus());
+        QTest::keyClick(feld, Qt::Key_5);
+        QWidget anderes;
+        anderes.show();
+        QApplication::setActiveWindow(&anderes);
+        QVERIFY(QTest::qWaitForWindowActive(&anderes));
+        QApplication::setActiveWindow(h.fenster.get());
+        QVERIFY(QTest::qWaitForWindowActive(h.fenster.get()));
+        QCOMPARE(feld->text(), QStringLiteral("5"));
+        QTest::keyClick(feld, Qt::Key_Backspace);
+        QTest::keyClick(feld, Qt::Key_Tab);
+        QCOMPARE(feld->text(), QStringLiteral("2"));  // abandoned: the value before the click
+    }
+
+    void gespeicherteZweistelligeWerteBleiben() {
+        Hauptfenster h;
+        Dateiinhalt d = kleinesSpiel();
+        d.TippDatei[Anna][1][0] = {{12, 10}};
+        d.ErgebnisDatei[1][1] = {{11, 0}};
+        h.oeffneSpiel(d);
+        QCOMPARE(h.feld("txtHeimTipp", Anna * 10)->text(), QStringLiteral("12"));
+        QCOMPARE(h.feld("txtHeimErgebnis", 1)->text(), QStringLiteral("11"));
+        h.auswerten();
+        QCOMPARE(h.spiel().getTipp(Anna, 1, 0, 0), 12);
+        QCOMPARE(h.spiel().getTipp(Anna, 1, 0, 1), 10);
+        QCOMPARE(h.spiel().getErgebnis(1, 1, 0), 11);
+    }
+
+    void xSchuetztNurDenHeimtipp() {
+        Hauptfenster h;
+        h.oeffneSpiel();
+        h.feld("txtHeimTipp", Dieter * 10 + 0)->setText("X");
+        h.feld("txtAusTipp", Dieter * 10 + 0)->setText("5");
+        h.feld("txtHeimTipp", Dieter * 10 + 1)->setText("7");
+        h.feld("txtAusTipp", Dieter * 10 + 1)->setText("X");
+        h.auswerten();
+        QCOMPARE(h.spiel().getTipp(Dieter, 1, 0, 0), 2);
+        QCOMPARE(h.spiel().getTipp(Dieter, 1, 0, 1), 5);
+        QCOMPARE(h.spiel().getTipp(Dieter, 1, 1, 0), 7);
+        QCOMPARE(h.spiel().getTipp(Dieter, 1, 1, 1), 0);
+    }
+
+    void torklicksWertenSofortAus() {
+        Hauptfenster h;
+        h.oeffneSpiel();
+        h.zeigeSpieltag(2);  // no results yet; Cottbus - Dresden is match 0
+        h.feld("txtHeimErgebnis", 0)->setText(QString());
+        h.klick(h.label("lblHeimTeam", 0));
+        QCOMPARE(h.feld("txtHeimErgebnis", 0)->text(), QStringLiteral("1"));
+        h.klick(h.label("lblHeimTeam", 0));
+        QCOMPARE(h.feld("txtHeimErgebnis", 0)->text(), QStringLiteral("2"));
+        QCOMPARE(h.spiel().getErgebnis(2, 0, 0), 2);
+        QVERIFY(h.kind<QGroupBox>("fraBlitztabelle")
+                    ->title()
+                    .startsWith(QStringLiteral("Blitztabelle [Tor fürCottbus, ")));
+        // On a counted matchday the goal counts at once for the players.
+        h.zeigeSpieltag(1);
+        h.auswerten();
+        QCOMPARE(h.label("lblGesamtPunkte", Anna)->text(), QStringLiteral("10"));
+        h.feld("txtHeimTipp", Anna * 10 + 4)->setText("2");
+        h.feld("txtAusTipp", Anna * 10 + 4)->setText("2");
+        h.klick(h.label("lblHeimTeam", 4));  // Jena - Kiel 1:2 becomes 2:2: Anna's tip is a full hit
+        QCOMPARE(h.label("lblGesamtPunkte", Anna)->text(), QStringLiteral("13"));
+        QCOMPARE(h.spiel().getErgebnis(1, 4, 0), 2);
+    }
+
+    void torklickInEinBetretenesFeldZaehltWeiter() {
+        Hauptfenster h;
+        h.oeffneSpiel();
+        Eingabefeld* heim = h.feld("txtHeimErgebnis", 2);  // 0:3 on matchday 1
+        betrete(heim);
+        QCOMPARE(heim->text(), QString());
+        h.klick(h.label("lblHeimTeam", 2));
+        QCOMPARE(heim->text(), QStringLiteral("1"));
+        QCOMPARE(h.spiel().getErgebnis(1, 2, 0), 1);
+    }
+
+    void zuGrosseZahlWirdAbgelehnt() {
+        Hauptfenster h;
+        h.oeffneSpiel();
+        h.feld("txtHeimErgebnis", 0)->setText("70000");
+        h.auswerten();
+        QCOMPARE(h.meldungen(), QStringList{"Laufzeitfehler '6':\n\nÜberlauf"});
+        QCOMPARE(h.spiel().getErgebnis(1, 0, 0), 1);
+        h.feld("txtHeimErgebnis", 0)->setText("32767");
+        h.klick(h.label("lblHeimTeam", 0));
+        QCOMPARE(h.meldungen(), QStringList{"Laufzeitfehler '6':\n\nÜberlauf"});
+        QCOMPARE(h.spiel().getErgebnis(1, 0, 0), 1);
+        h.feld("txtHeimErgebnis", 0)->setText("4");  // the window keeps working
+        h.auswerten();
+        QCOMPARE(h.spiel().getErgebnis(1, 0, 0), 4);
+    }
+
+    void getippteZahlUeber32767WirdAbgelehnt() {
+        Hauptfenster h;
+        h.oeffneSpiel();
+        Eingabefeld* feld = h.feld("txtAusErgebnis", 6);
+        betrete(feld);
+        QTest::keyClicks(feld, "3276");
+        QTest::keyClick(feld, Qt::Key_7);
+        QCOMPARE(feld->text(), QStringLiteral("32767"));
+        QCOMPARE(h.meldungen(), QStringList());
+        QTest::keyClick(feld, Qt::Key_Backspace);
+        QTest::keyClick(feld, Qt::Key_8);
+        QCOMPARE(feld->text(), QStringLiteral("3276"));
+        QCOMPARE(h.meldungen(), QStringList{"Laufzeitfehler '6':\n\nÜberlauf"});
+    }
+
+    void spieltagswechselBehaeltGetippteWerte() {
+        Hauptfenster h;
+        h.oeffneSpiel();
+        h.feld("txtHeimTipp", Bernd * 10 + 2)->setText("9");
+        h.feld("txtHeimErgebnis", 4)->setText("8");
+        h.zeigeSpieltag(2);
+        QCOMPARE(h.label("lblSpieltagWahl", 1)->palette().color(QPalette::Window), QColor(255, 255, 128));
+        QVERIFY(!h.label("lblSpieltagWahl", 1)->font().bold());
+        QCOMPARE(h.label("lblSpieltagWahl", 2)->palette().color(QPalette::Window), QColor(255, 0, 0));
+        QVERIFY(h.label("lblSpieltagWahl", 2)->font().bold());
+        h.zeigeSpieltag(1);
+        QCOMPARE(h.feld("txtHeimTipp", Bernd * 10 + 2)->text(), QStringLiteral("9"));
+        QCOMPARE(h.feld("txtHeimErgebnis", 4)->text(), QStringLiteral("8"));
+        QCOMPARE(h.spiel().getTipp(Bernd, 1, 2, 0), 9);
+    }
+};
+
+KALIMBO_UI_TEST_MAIN(HauptEingabeTest)
+#include "haupt_eingabe_test.moc"
