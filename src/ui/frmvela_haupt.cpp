@@ -15,6 +15,8 @@
 #include "ui/bausteine/elemente.h"
 #include "ui/bausteine/fehlergrenze.h"
 #include "ui/bausteine/twips.h"
+#include "ui/frmregel.h"
+#include "ui/frmspieler.h"
 #include "ui/haupt/bedienfeld.h"
 #include "ui/haupt/blitztabelle.h"
 #include "ui/haupt/infobox.h"
@@ -96,21 +98,22 @@ std::function<void()> frmVela_Haupt::sicher(std::function<void()> handler) {
     return [this, handler = std::move(handler)] { fangeFehler(this, m_dialoge, handler); };
 }
 
+template <class... Argumente>
+auto frmVela_Haupt::sicherMit(void (frmVela_Haupt::*handler)(Argumente...)) {
+    return [this, handler](Argumente... argumente) {
+        fangeFehler(this, m_dialoge, [&] { (this->*handler)(argumente...); });
+    };
+}
+
 void frmVela_Haupt::verbinde(QAction* aktion, std::function<void()> handler) {
     connect(aktion, &QAction::triggered, this, sicher(std::move(handler)));
 }
 
 void frmVela_Haupt::verbindePanels() {
-    connect(m_wahl, &Spieltagswahl::spieltagGeklickt, this,
-            [this](int tag) { fangeFehler(this, m_dialoge, [&] { lblSpieltagWahl_Click(tag); }); });
-    connect(m_wahl, &Spieltagswahl::auswahlGeklickt, this, [this](int tag) {
-        fangeFehler(this, m_dialoge, [&] { zeigeAuswahl(schalteSpieltag(m_spiel, tag)); });
-    });
-    connect(m_ansicht, &Spieltagsansicht::teamGeklickt, this, [this](int spiel, int seite) {
-        fangeFehler(this, m_dialoge, [&] { lblTeam_Click(spiel, seite); });
-    });
-    connect(m_ansicht, &Spieltagsansicht::spielerGeklickt, this,
-            [this](int spieler) { fangeFehler(this, m_dialoge, [&] { lblSpieler_Click(spieler); }); });
+    connect(m_wahl, &Spieltagswahl::spieltagGeklickt, this, sicherMit(&frmVela_Haupt::lblSpieltagWahl_Click));
+    connect(m_wahl, &Spieltagswahl::auswahlGeklickt, this, sicherMit(&frmVela_Haupt::lblAuswahl_Click));
+    connect(m_ansicht, &Spieltagsansicht::teamGeklickt, this, sicherMit(&frmVela_Haupt::lblTeam_Click));
+    connect(m_ansicht, &Spieltagsansicht::spielerGeklickt, this, sicherMit(&frmVela_Haupt::lblSpieler_Click));
     connect(m_ansicht, &Spieltagsansicht::bearbeitet, this, &frmVela_Haupt::geaendert);
     connect(m_ansicht, &Spieltagsansicht::ueberlauf, this,
             [this] { m_dialoge.meldung(this, fehlermeldung(Laufzeitfehler(Laufzeitfehler::Ueberlauf))); });
@@ -146,7 +149,8 @@ void frmVela_Haupt::verbindeMenue() {
     verbinde(m.menReg2, [this] { menReg_Click(0); });
     verbinde(m.menReg3, [this] { menReg_Click(1); });
     verbinde(m.menReg321, [this] { menReg_Click(2); });
-    verbinde(m.menRegEigene, [this] { menReg_Click(ModusEigeneRegel); });
+    verbinde(m.menRegEigene, [this] { menRegEigene_Click(); });
+    verbinde(m.menSpielerAe, [this] { menSpielerAe_Click(); });
     verbinde(m.menAuswerten, [this] { auswerten(QStringLiteral("---")); });
     connect(m.menNormal, &QAction::triggered, this, [this] { m_menue.menNormal->setChecked(true); });
     // Strg+Bild auf/ab show the matchday before or after the one shown.
@@ -307,6 +311,10 @@ void frmVela_Haupt::lblSpieltagWahl_Click(int spieltag) {
     ShowMatchday();
 }
 
+void frmVela_Haupt::lblAuswahl_Click(int spieltag) {
+    zeigeAuswahl(schalteSpieltag(m_spiel, spieltag));
+}
+
 void frmVela_Haupt::blaettere(int schritt) {
     const int tag = m_spiel.getAktSpieltag() + schritt;
     if (tag >= 0 && tag <= m_spiel.getAnzSpieltage()) lblSpieltagWahl_Click(tag);
@@ -343,6 +351,27 @@ void frmVela_Haupt::menReg_Click(i16 modus) {
     waehleRegel(m_spiel, modus);
     zeigeRegelhaken();
     geaendert();
+}
+
+// The own rule's window is opened without waiting for it; the rule is in force at once, with the
+// points and colours of the rule before until the window is confirmed.
+void frmVela_Haupt::menRegEigene_Click() {
+    menReg_Click(ModusEigeneRegel);
+    if (!m_frmRegel) {
+        m_frmRegel = new frmRegel(this, m_dialoge);
+        connect(m_frmRegel, &frmRegel::setModus, this, sicherMit(&frmVela_Haupt::setModus));
+        connect(m_frmRegel, &frmRegel::setFarbeMod, this, sicherMit(&frmVela_Haupt::setFarbeMod));
+    }
+    m_frmRegel->zeige(m_spiel);
+}
+
+void frmVela_Haupt::menSpielerAe_Click() {
+    if (!m_frmSpieler) {
+        m_frmSpieler = new frmSpieler(this, m_dialoge);
+        connect(m_frmSpieler, &frmSpieler::bestaetigt, this,
+                sicher([this] { HoleSpielerDaten(*m_frmSpieler); }));
+    }
+    m_frmSpieler->zeige(m_spiel);
 }
 
 void frmVela_Haupt::zeigeAuswahl(const Auswahlergebnis& ergebnis) {

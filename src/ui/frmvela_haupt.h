@@ -13,6 +13,8 @@ namespace kalimbo::ui {
 class Bedienfeld;
 class Blitztabelle;
 class Dialoge;
+class frmRegel;
+class frmSpieler;
 class Infobox;
 class Spieltagsansicht;
 class Spieltagswahl;
@@ -54,12 +56,18 @@ class frmVela_Haupt : public QMainWindow {
     Blitztabelle* m_blitztabelle;
     Tipptabellen* m_tipptabellen;
     Infobox* m_infobox;
+    // The other windows, created on first use and kept.
+    frmSpieler* m_frmSpieler = nullptr;
+    frmRegel* m_frmRegel = nullptr;
 
     void baueFenster();
     void verbindePanels();
     void verbindeMenue();
     void verbinde(QAction* aktion, std::function<void()> handler);
+    // Handlers run inside the error boundary: a core error is shown and the window keeps going.
     std::function<void()> sicher(std::function<void()> handler);
+    template <class... Argumente>
+    auto sicherMit(void (frmVela_Haupt::*handler)(Argumente...));
 
     // Files.
     void menOeffnen_Click();
@@ -77,12 +85,15 @@ class frmVela_Haupt : public QMainWindow {
     void ShowMatchday();
     void TakeEntries();
     void lblSpieltagWahl_Click(int spieltag);
+    void lblAuswahl_Click(int spieltag);
     void blaettere(int schritt);
     void auswerten(const QString& anlass);
     void lblTeam_Click(int spiel, int seite);
     void lblSpieler_Click(int spieler);
     void cmdSonntag_Click();
     void menReg_Click(i16 modus);
+    void menRegEigene_Click();
+    void menSpielerAe_Click();
     void zeigeAuswahl(const Auswahlergebnis& ergebnis);
     void geaendert();
 };

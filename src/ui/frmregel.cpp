@@ -1,0 +1,142 @@
+#include "frmregel.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "state/zahltext.h"
+#include "ui/bausteine/allesmarkieren.h"
+#include "ui/bausteine/elemente.h"
+#include "ui/bausteine/farben.h"
+#include "ui/bausteine/fehlergrenze.h"
+#include "ui/bausteine/klicklabel.h"
+#include "ui/bausteine/twips.h"
+
+namespace kalimbo::ui {
+
+const std::array<Farbe, 3> frmRegel::Angebot{rgb(247, 25, 25), rgb(250, 250, 124), rgb(48, 190, 48)};
+
+namespace {
+
+constexpr int ErsteZeile = 1200;
+constexpr int Zeilenhoehe = 780;
+constexpr int Punktespalte = 4440;
+constexpr int Farbspalte = 5400;   // the colour chosen for each kind
+constexpr int Wahlspalte = 8760;   // the three colours to choose from
+constexpr int Festspalte = 11280;  // the fixed rules' colours, one column per rule
+
+void setzeFlaeche(QWidget* w, Farbe farbe) {
+    setzeFarben(w, qfarbe(farbe), Qt::black);
+    w->setAutoFillBackground(true);
+}
+
+QLabel* beschriftung(QWidget* eltern, const QString& text, const QRect& ort, bool fett = false) {
+    auto* l = element<QLabel>(eltern, QString(), ort);
+    l->setText(text);
+    l->setWordWrap(true);
+    setzeFett(l, fett);
+    return l;
+}
+
+QFrame* flaeche(QWidget* eltern, const QString& name, const QRect& ort) {
+    auto* f = element<QFrame>(eltern, name, ort);
+    f->setFrameStyle(QFrame::Box | QFrame::Plain);
+    return f;
+}
+
+}  // namespace
+
+frmRegel::frmRegel(QWidget* eltern, Dialoge& dialoge) : QWidget(eltern), m_dialoge(dialoge) {
+    setWindowFlag(Qt::Window);
+    setObjectName(QStringLiteral("frmRegel"));
+    setWindowTitle(QStringLiteral("Eigene Regel bezüglich der Auswertung erstellen"));
+    beschriftung(this, QStringLiteral("neue Regel"), rechteck(240, 120, 3000, 300), true);
+    beschriftung(this, QStringLiteral("hier die Punktzahl eintragen"),
+                 rechteck(Punktespalte - 240, 480, 1080, 660));
+    beschriftung(
+        this,
+        QStringLiteral("hier die Hintergrundfarbe wählen [benötigt, um in der Übersicht richtige Tipps "
+                       "mit der entsprechenden Farbe zu hinterlegen]"),
+        rechteck(Farbspalte, 120, 3120, 1020));
+    beschriftung(this, QStringLiteral("zur Wahl stehende Farben"), rechteck(Wahlspalte, 600, 2160, 480));
+    const char* const festeKoepfe[] = {"3-Pkt- Regel", "2-Pkt -Regel", "3-2-1- Regel"};
+    for (int r = 0; r < 3; ++r)
+        beschriftung(this, QString::fromUtf8(festeKoepfe[r]), rechteck(Festspalte + r * 840, 600, 780, 480));
+
+    const QString arten[] = {
+        QStringLiteral("Punkte bei komplett richtigem Tipp ( Ergebnis 3:0, Tipp 3:0)"),
+        QStringLiteral("Punkte bei richtiger Vorhersage der Höhe des Sieges\n(Ergebnis 3:0, Tipp 4:1)"),
+        QStringLiteral("Punkte bei richtig getippter Tendenz (Ergebnis 3:0, Tipp 2:1)")};
+    // Which fixed swatch stands in which rule's column: 0..2 fully correct, 3 the margin of 3-2-1.
+    constexpr int festeZeile[9] = {0, 0, 0, 1, 1, 1, 2, 2, 2};
+    constexpr int festeSpalte[9] = {0, 1, 2, 2, 0, 1, 0, 1, 2};
+    for (int k = 0; k < 3; ++k) {
+        const int oben = ErsteZeile + k * Zeilenhoehe;
+        beschriftung(this, arten[k], rechteck(240, oben - 120, 4080, 720));
+        txtNeuModus[k] =
+            element<QLineEdit>(this, indexName("txtNeuModus", k), rechteck(Punktespalte, oben, 540, 330));
+        txtNeuModus[k]->setAlignment(Qt::AlignCenter);
+        markiereBeimBetretenAlles(txtNeuModus[k]);
+        lblFarbWahl[k] = flaeche(this, indexName("lblFarbWahl", k), rechteck(Farbspalte, oben, 1200, 330));
+        lblFarbWahl[k]->setToolTip(QStringLiteral("aktuell gewählte Farbe"));
+        for (int j = 0; j < 3; ++j) {
+            const int i = 3 * k + j;
+            auto* alt = element<KlickLabel>(this, indexName("lblFarbAlt", i),
+                                            rechteck(Wahlspalte + j * 720, oben, 600, 330));
+            alt->setFrameStyle(QFrame::Box | QFrame::Plain);
+            alt->setCursor(Qt::PointingHandCursor);
+            connect(alt, &KlickLabel::geklickt, this, [this, i] { lblFarbAlt_Click(i); });
+            lblFarbAlt[i] = alt;
+        }
+    }
+    beschriftung(this, QStringLiteral("aktuell gewählte Farbe"),
+                 rechteck(Farbspalte, ErsteZeile + 3 * Zeilenhoehe - 360, 2400, 300));
+    for (int i = 0; i < 9; ++i) {
+        lblFarbeFest[i] = flaeche(
+            this, indexName("lblFarbeFest", i),
+            rechteck(Festspalte + festeSpalte[i] * 840, ErsteZeile + festeZeile[i] * Zeilenhoehe, 600, 330));
+        setzeFlaeche(lblFarbeFest[i], Angebot[i == 3 ? 1 : (i < 3 ? 0 : 2)]);
+    }
+    auto* ok = element<QPushButton>(this, QStringLiteral("cmdOK"),
+                                    rechteck(Festspalte + 600, ErsteZeile + 3 * Zeilenhoehe, 1320, 375));
+    ok->setText(QStringLiteral("OK"));
+    ok->setDefault(true);
+    connect(ok, &QPushButton::clicked, this,
+            [this] { fangeFehler(this, m_dialoge, [this] { cmdOK_Click(); }); });
+    setFixedSize(px(Festspalte + 2760), px(ErsteZeile + 3 * Zeilenhoehe + 600));
+}
+
+void frmRegel::zeige(const Spielstand& spiel) {
+    for (int i = 0; i < 9; ++i)
+        setzeFlaeche(lblFarbAlt[static_cast<std::size_t>(i)], Angebot[static_cast<std::size_t>(i % 3)]);
+    for (int k = 0; k < 3; ++k) {
+        const auto s = static_cast<std::size_t>(k);
+        m_gewaehlt[s] = spiel.getModusFarbe(k);
+        setzeFlaeche(lblFarbWahl[s], m_gewaehlt[s]);
+        txtNeuModus[s]->setText(QString::number(spiel.getModusPunkte(k)));
+    }
+    show();
+    raise();
+    activateWindow();
+}
+
+void frmRegel::lblFarbAlt_Click(int index) {
+    const auto art = static_cast<std::size_t>(index / 3);
+    m_gewaehlt[art] = Angebot[static_cast<std::size_t>(index % 3)];
+    setzeFlaeche(lblFarbWahl[art], m_gewaehlt[art]);
+}
+
+// All three points are read before anything is written: an empty box gives 0, a number outside
+// the 16-bit range is refused and nothing changes.
+void frmRegel::cmdOK_Click() {
+    std::array<i16, 3> punkte{};
+    for (std::size_t k = 0; k < punkte.size(); ++k)
+        punkte[k] = zahlAusText(txtNeuModus[k]->text().toStdString());
+    for (int k = 0; k < 3; ++k) {
+        emit setModus(k, punkte[static_cast<std::size_t>(k)]);
+        emit setFarbeMod(k, m_gewaehlt[static_cast<std::size_t>(k)]);
+    }
+    close();
+}
+
+}  // namespace kalimbo::ui

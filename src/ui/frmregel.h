@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QWidget>
+#include <array>
+
+#include "state/spielstand.h"
+
+class QLineEdit;
+
+namespace kalimbo::ui {
+
+class Dialoge;
+class KlickLabel;
+
+// The own rule ("frmRegel"): points and background colour for each hit kind (0 fully correct,
+// 1 correct margin, 2 correct tendency), starting from the rule in force. "OK" hands the three
+// points and colours to the main window, which writes them with setModus and setFarbeMod; nothing
+// is evaluated until the user asks for it.
+class frmRegel : public QWidget {
+    Q_OBJECT
+  public:
+    frmRegel(QWidget* eltern, Dialoge& dialoge);
+
+    // Points and colours of the rule in force, then shows the window (without waiting for it).
+    void zeige(const Spielstand& spiel);
+
+    // The colours offered for the own rule; the fixed rules' red and yellow differ slightly.
+    static const std::array<Farbe, 3> Angebot;
+
+  signals:
+    void setModus(int art, i16 punkte);
+    void setFarbeMod(int art, Farbe farbe);
+
+  private:
+    Dialoge& m_dialoge;
+    std::array<Farbe, 3> m_gewaehlt{};
+    std::array<QLineEdit*, 3> txtNeuModus{};
+    std::array<KlickLabel*, 9> lblFarbAlt{};
+    std::array<QWidget*, 3> lblFarbWahl{};
+    std::array<QWidget*, 9> lblFarbeFest{};
+
+    void lblFarbAlt_Click(int index);
+    void cmdOK_Click();
+};
+
+}  // namespace kalimbo::ui

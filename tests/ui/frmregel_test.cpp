@@ -1,0 +1,100 @@
+// The own-rule window: it starts from the rule in force, the swatches choose the colours, "OK"
+// writes points and colours without evaluating, and a number too large changes nothing.
+#include <QLineEdit>
+
+#include "hauptfenster.h"
+#include "ui/frmregel.h"
+
+using namespace kalimbo;
+using namespace kalimbo::ui;
+using namespace kalimbo::ui::test;
+
+class FrmRegelTest : public QObject {
+    Q_OBJECT
+
+    static frmRegel* oeffneFenster(const Hauptfenster& h) {
+        h.aktion(QStringLiteral("menRegEigene"))->trigger();
+        return h.kind<frmRegel>("frmRegel");
+    }
+    static QColor flaeche(const Hauptfenster& h, const char* name, int i) {
+        return h.kind(Hauptfenster::indexName(name, i))->palette().color(QPalette::Window);
+    }
+    static QLineEdit* punkte(const Hauptfenster& h, int art) {
+        return h.kind<QLineEdit>(Hauptfenster::indexName("txtNeuModus", art));
+    }
+
+  private slots:
+    void beginntMitDerRegelInKraft() {
+        Hauptfenster h;
+        h.oeffneSpiel();
+        h.aktion("menReg3")->trigger();
+        h.aktion("menReg321")->trigger();
+        frmRegel* fenster = oeffneFenster(h);
+        QVERIFY(fenster->isVisible());
+        QCOMPARE(h.spiel().Modus, 3);
+        QVERIFY(h.aktion("menRegEigene")->isChecked() && !h.aktion("menReg321")->isChecked());
+        QCOMPARE(punkte(h, 0)->text(), QStringLiteral("3"));
+        QCOMPARE(punkte(h, 1)->text(), QStringLiteral("2"));
+        QCOMPARE(punkte(h, 2)->text(), QStringLiteral("1"));
+        QCOMPARE(flaeche(h, "lblFarbWahl", 0), QColor(255, 0, 0));
+        QCOMPARE(flaeche(h, "lblFarbWahl", 1), QColor(250, 250, 144));
+        QCOMPARE(flaeche(h, "lblFarbWahl", 2), QColor(48, 190, 48));
+        // Offered: index i belongs to kind i / 3 and shows offered colour i % 3.
+        const QColor angebot[] = {QColor(247, 25, 25), QColor(250, 250, 124), QColor(48, 190, 48)};
+        for (int i = 0; i < 9; ++i)
+            QCOMPARE(flaeche(h, "lblFarbAlt", i), angebot[i % 3]);
+        const int fest[] = {0, 0, 0, 1, 2, 2, 2, 2, 2};
+        for (int i = 0; i < 9; ++i)
+            QCOMPARE(flaeche(h, "lblFarbeFest", i), angebot[fest[i]]);
+        QCOMPARE(fenster->windowTitle(), QStringLiteral("Eigene Regel bezüglich der Auswertung erstellen"));
+    }
+
+    void okSchreibtPunkteUndFarbenOhneAuswertung() {
+        Hauptfenster h;
+        h.oeffneSpiel();
+        const QString vorher = h.label("lblGesamtPunkte", Bernd)->text();  // 16 under 3-2-1
+        oeffneFenster(h);
+        h.klick(h.label("lblFarbAlt", 5));  // kind 1 (margin), offered colour 2 (green)
+        QCOMPARE(flaeche(h, "lblFarbWahl", 1), QColor(48, 190, 48));
+        punkte(h, 0)->setText(QStringLiteral("5"));
+        punkte(h, 1)->clear();  // empty: 0 points
+        punkte(h, 2)->setText(QStringLiteral("-1"));
+        h.klick(h.kind("cmdOK"));
+        QVERIFY(!h.kind("frmRegel")->isVisible());
+        QCOMPARE(h.spiel().getModusPunkte(0), 5);
+        QCOMPARE(h.spiel().getModusPunkte(1), 0);
+        QCOMPARE(h.spiel().getModusPunkte(2), -1);
+        QCOMPARE(h.spiel().getModusFarbe(1), rgb(48, 190, 48));
+        QCOMPARE(h.spiel().getModusFarbe(0), rgb(255, 0, 0));
+        QCOMPARE(h.label("lblGesamtPunkte", Bernd)->text(), vorher);
+        h.auswerten();  // Bernd: two margins (0) and four full hits (20) on his matchdays
+        QCOMPARE(h.label("lblGesamtPunkte", Bernd)->text(), QStringLiteral("20"));
+    }
+
+    void zuGrossePunktzahlAendertNichts() {
+        Hauptfenster h;
+        h.oeffneSpiel();
+        oeffneFenster(h);
+        punkte(h, 0)->setText(QStringLiteral("7"));
+        punkte(h, 2)->setText(QStringLiteral("40000"));
+        h.klick(h.kind("cmdOK"));
+        QCOMPARE(h.meldungen(), QStringList{"Laufzeitfehler '6':\n\nÜberlauf"});
+        QCOMPARE(h.spiel().getModusPunkte(0), 3);
+        QVERIFY(h.kind("frmRegel")->isVisible());
+    }
+
+    void schliessenOhneOkLaesstDieRegel() {
+        Hauptfenster h;
+        h.oeffneSpiel();
+        oeffneFenster(h);
+        punkte(h, 0)->setText(QStringLiteral("9"));
+        h.kind("frmRegel")->close();
+        QCOMPARE(h.spiel().getModusPunkte(0), 3);
+        QCOMPARE(h.spiel().Modus, 3);
+        oeffneFenster(h);  // opened again: from the game's values, not from what was typed
+        QCOMPARE(punkte(h, 0)->text(), QStringLiteral("3"));
+    }
+};
+
+KALIMBO_UI_TEST_MAIN(FrmRegelTest)
+#include "frmregel_test.moc"
