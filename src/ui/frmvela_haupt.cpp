@@ -29,10 +29,6 @@ namespace kalimbo::ui {
 
 namespace {
 
-const QString Spieldateifilter = QStringLiteral("Tippspiel-Dateien (*.tip)|*.tip|Alle Dateien|*.*");
-const QString OeffnenTitel = QStringLiteral("Wählen Sie den gespeicherten Spielstand!");
-const QString SpeichernTitel = QStringLiteral("Geben Sie den Namen der Datei zum Speichern ein!");
-
 std::filesystem::path pfadVon(const QString& pfad) {
     return QFile::encodeName(pfad).toStdString();
 }
@@ -71,8 +67,7 @@ void frmVela_Haupt::baueFenster() {
     m_wahl = new Spieltagswahl(mitte);
     m_ansicht = new Spieltagsansicht(mitte);
     m_ansicht->setGeometry(rechteck(60, 540, 15240, 4920));
-    m_bedienfeld = new Bedienfeld(m_ansicht);
-    m_bedienfeld->move(px(13560), px(480));
+    m_bedienfeld = m_ansicht->bedienfeld();
     m_blitztabelle = new Blitztabelle(mitte);
     m_blitztabelle->setGeometry(rechteck(60, 5520, 6060, 5295));
     m_tipptabellen = new Tipptabellen(mitte);
@@ -82,16 +77,6 @@ void frmVela_Haupt::baueFenster() {
     flaeche->setWidget(mitte);
     setCentralWidget(flaeche);
     resize(px(15360), px(10875) + menuBar()->sizeHint().height());
-
-    QWidget* vorher = nullptr;
-    for (QWidget* w : m_ansicht->tabfolge()) {
-        if (vorher) setTabOrder(vorher, w);
-        vorher = w;
-    }
-    for (QWidget* w : m_bedienfeld->tabfolge()) {
-        setTabOrder(vorher, w);
-        vorher = w;
-    }
 }
 
 std::function<void()> frmVela_Haupt::sicher(std::function<void()> handler) {
@@ -178,8 +163,7 @@ void frmVela_Haupt::geaendert() {
 // Files
 
 void frmVela_Haupt::menOeffnen_Click() {
-    const QString pfad = m_dialoge.oeffnen(this, OeffnenTitel, Spieldateifilter);
-    if (!pfad.isEmpty()) oeffne(pfad);
+    if (const QString pfad = waehleSpieldatei(m_dialoge, this); !pfad.isEmpty()) oeffne(pfad);
 }
 
 void frmVela_Haupt::oeffne(const QString& angabe) {
@@ -212,10 +196,8 @@ void frmVela_Haupt::nachDemOeffnen(const QString& pfad, const QString& titel, co
 void frmVela_Haupt::menSpeichern_Click() {
     TakeEntries();
     m_spiel.kopiereArbeitInDatei();
-    const QString angabe =
-        m_dialoge.speichern(this, SpeichernTitel, Spieldateifilter, text(m_spiel.Dateipfad));
-    if (angabe.isEmpty()) return;
-    const QString pfad = QFileInfo(angabe).absoluteFilePath();
+    const QString pfad = waehleSpeicherort(m_dialoge, this, text(m_spiel.Dateipfad));
+    if (pfad.isEmpty()) return;
     speichereSpieldatei(pfadVon(pfad), m_spiel);
     setzeAktuelleDatei(pfad, true);
     m_zuletzt.hinzufuegen(pfad, QFileInfo(pfad).fileName());
@@ -235,13 +217,7 @@ void frmVela_Haupt::setzeAktuelleDatei(const QString& pfad, bool alsSpeicherziel
 }
 
 void frmVela_Haupt::zeigeZuletztMenue() {
-    for (std::size_t i = 0; i < m_menue.menRecent.size(); ++i) {
-        const ZuletztListe::Eintrag& e = m_zuletzt.eintraege[i];
-        QAction* eintrag = m_menue.menRecent[i];
-        eintrag->setText(QString(e.titel).replace(QLatin1Char('&'), QStringLiteral("&&")));
-        eintrag->setToolTip(e.pfad);
-        eintrag->setVisible(!e.pfad.isEmpty());
-    }
+    zeigeZuletzt(m_menue, m_zuletzt);
     m_wahl->zeige(m_spiel);
 }
 
@@ -250,8 +226,8 @@ void frmVela_Haupt::zeigeZuletztMenue() {
 
 void frmVela_Haupt::wendeSpielAn() {
     m_wahl->zeige(m_spiel);
-    zeigeRegelhaken();
-    zeigeTrainermenue();
+    zeigeRegelhaken(m_menue, m_spiel.Modus);
+    zeigeTrainermenue(m_menue, m_spiel);
     passeLayoutAn();
     m_blitztabelle->wendeSpielAn(m_spiel);
     m_ansicht->zeigeSpielernamen(m_spiel);
@@ -260,26 +236,6 @@ void frmVela_Haupt::wendeSpielAn() {
     m_wahl->hebeHervor(tag);
     m_spiel.AktSpieltag = static_cast<i16>(tag);
     ShowMatchday();
-}
-
-void frmVela_Haupt::zeigeRegelhaken() {
-    const std::array<QAction*, 4> haken{m_menue.menReg2, m_menue.menReg3, m_menue.menReg321,
-                                        m_menue.menRegEigene};
-    for (std::size_t i = 0; i < haken.size(); ++i)
-        haken[i]->setChecked(static_cast<int>(i) == m_spiel.Modus);
-}
-
-// Item 0 is always there (disabled while its period is not active); the others only when active.
-void frmVela_Haupt::zeigeTrainermenue() {
-    for (int i = 0; i < 10; ++i) {
-        const Trainerdaten& t = m_spiel.Trainerwechsel[i];
-        QAction* eintrag = m_menue.menDieserTrainer[static_cast<std::size_t>(i)];
-        eintrag->setVisible(i == 0 || t.Aktiv != 0);
-        eintrag->setEnabled(t.Aktiv != 0);
-        eintrag->setText(i == 0 && t.Aktiv == 0 && t.Name.empty()
-                             ? QStringLiteral("noch keine Trainerwechsel")
-                             : text(t.Name));
-    }
 }
 
 void frmVela_Haupt::passeLayoutAn() {
@@ -349,7 +305,7 @@ void frmVela_Haupt::cmdSonntag_Click() {
 
 void frmVela_Haupt::menReg_Click(i16 modus) {
     waehleRegel(m_spiel, modus);
-    zeigeRegelhaken();
+    zeigeRegelhaken(m_menue, m_spiel.Modus);
     geaendert();
 }
 

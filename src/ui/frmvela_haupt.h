@@ -79,8 +79,6 @@ class frmVela_Haupt : public QMainWindow {
 
     // The game on screen.
     void wendeSpielAn();
-    void zeigeRegelhaken();
-    void zeigeTrainermenue();
     void passeLayoutAn();
     void ShowMatchday();
     void TakeEntries();

@@ -1,6 +1,7 @@
 #include "dialoge.h"
 
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 
 namespace kalimbo::ui {
@@ -13,6 +14,27 @@ QString qtFilter(const QString& filter) {
         ergebnis << (teile[i].contains('(') ? teile[i] : teile[i] + " (" + muster + ")");
     }
     return ergebnis.join(";;");
+}
+
+namespace {
+
+const QString Spieldateifilter = QStringLiteral("Tippspiel-Dateien (*.tip)|*.tip|Alle Dateien|*.*");
+
+QString absolut(const QString& pfad) {
+    return pfad.isEmpty() ? pfad : QFileInfo(pfad).absoluteFilePath();
+}
+
+}  // namespace
+
+QString waehleSpieldatei(Dialoge& dialoge, QWidget* eltern) {
+    return absolut(dialoge.oeffnen(eltern, QStringLiteral("Wählen Sie den gespeicherten Spielstand!"),
+                                   Spieldateifilter));
+}
+
+QString waehleSpeicherort(Dialoge& dialoge, QWidget* eltern, const QString& vorschlag) {
+    return absolut(dialoge.speichern(eltern,
+                                     QStringLiteral("Geben Sie den Namen der Datei zum Speichern ein!"),
+                                     Spieldateifilter, vorschlag));
 }
 
 QString QtDialoge::oeffnen(QWidget* eltern, const QString& titel, const QString& filter) {

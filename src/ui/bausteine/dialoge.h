@@ -29,6 +29,12 @@ class QtDialoge : public Dialoge {
     void meldung(QWidget* eltern, const QString& text) override;
 };
 
+// The game file to open (also to merge tips from, or to read coach periods from), as an absolute
+// path; empty when the user cancelled.
+QString waehleSpieldatei(Dialoge& dialoge, QWidget* eltern);
+// Where to save the game, `vorschlag` proposed, as an absolute path; empty when cancelled.
+QString waehleSpeicherort(Dialoge& dialoge, QWidget* eltern, const QString& vorschlag);
+
 // "Tippspiel-Dateien (*.tip)|*.tip|Alle Dateien|*.*" as Qt writes it:
 // "Tippspiel-Dateien (*.tip);;Alle Dateien (*)".
 QString qtFilter(const QString& filter);

@@ -96,4 +96,32 @@ Hauptmenue baueHauptmenue(QMenuBar* leiste) {
     return h;
 }
 
+void zeigeRegelhaken(const Hauptmenue& menue, i16 modus) {
+    const std::array<QAction*, 4> haken{menue.menReg2, menue.menReg3, menue.menReg321, menue.menRegEigene};
+    for (std::size_t i = 0; i < haken.size(); ++i)
+        haken[i]->setChecked(static_cast<int>(i) == modus);
+}
+
+void zeigeTrainermenue(const Hauptmenue& menue, const Spielstand& spiel) {
+    for (int i = 0; i < 10; ++i) {
+        const Trainerdaten& t = spiel.Trainerwechsel[i];
+        QAction* eintrag = menue.menDieserTrainer[static_cast<std::size_t>(i)];
+        eintrag->setVisible(i == 0 || t.Aktiv != 0);
+        eintrag->setEnabled(t.Aktiv != 0);
+        eintrag->setText(i == 0 && t.Aktiv == 0 && t.Name.empty()
+                             ? QStringLiteral("noch keine Trainerwechsel")
+                             : QString::fromStdString(t.Name));
+    }
+}
+
+void zeigeZuletzt(const Hauptmenue& menue, const ZuletztListe& liste) {
+    for (std::size_t i = 0; i < menue.menRecent.size(); ++i) {
+        const ZuletztListe::Eintrag& e = liste.eintraege[i];
+        QAction* eintrag = menue.menRecent[i];
+        eintrag->setText(QString(e.titel).replace(QLatin1Char('&'), QStringLiteral("&&")));
+        eintrag->setToolTip(e.pfad);
+        eintrag->setVisible(!e.pfad.isEmpty());
+    }
+}
+
 }  // namespace kalimbo::ui

@@ -2,6 +2,9 @@
 
 #include <array>
 
+#include "state/spielstand.h"
+#include "ui/haupt/zuletztliste.h"
+
 class QAction;
 class QMenu;
 class QMenuBar;
@@ -27,5 +30,13 @@ struct Hauptmenue {
 };
 
 Hauptmenue baueHauptmenue(QMenuBar* leiste);
+
+// The check mark of the rule in force (Modus 0..3; any other value checks none).
+void zeigeRegelhaken(const Hauptmenue& menue, i16 modus);
+// The coach periods: item 0 is always there (disabled while its period is not active, "noch keine
+// Trainerwechsel" while it has no name either), the others only when active.
+void zeigeTrainermenue(const Hauptmenue& menue, const Spielstand& spiel);
+// The recent files by their names ("&" shown as itself), the full path as hint; empty ones hidden.
+void zeigeZuletzt(const Hauptmenue& menue, const ZuletztListe& liste);
 
 }  // namespace kalimbo::ui

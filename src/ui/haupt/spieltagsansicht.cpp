@@ -8,6 +8,7 @@
 #include "ui/bausteine/farben.h"
 #include "ui/bausteine/klicklabel.h"
 #include "ui/bausteine/twips.h"
+#include "ui/haupt/bedienfeld.h"
 
 namespace kalimbo::ui {
 
@@ -72,6 +73,9 @@ Spieltagsansicht::Spieltagsansicht(QWidget* eltern) : QFrame(eltern) {
     chkSonntag->hide();
     for (int p = 0; p < MaxSpieler; ++p)
         erzeugeSpielerspalte(p);
+    m_bedienfeld = new Bedienfeld(this);
+    m_bedienfeld->move(px(13560), px(480));
+    setzeTabfolge();
 }
 
 Eingabefeld* Spieltagsansicht::eingabefeld(QWidget* eltern, const char* name, int index,
@@ -139,14 +143,24 @@ void Spieltagsansicht::erzeugeSpielerspalte(int p) {
     setzeFett(lblGesamtPunkte[p], true);
 }
 
-std::vector<QWidget*> Spieltagsansicht::tabfolge() const {
-    std::vector<QWidget*> folge;
-    for (std::size_t k = 0; k < MaxSpiele; ++k)
-        folge.insert(folge.end(), {txtHeimErgebnis[k], txtAusErgebnis[k]});
-    // Tip field i takes tab positions 2i + 24 and 2i + 25: down one player's column, then the next.
-    for (std::size_t i = 0; i < txtHeimTipp.size(); ++i)
-        folge.insert(folge.end(), {txtHeimTipp[i], txtAusTipp[i]});
-    return folge;
+// Results down the matches, then each player's column (tip field i: tab positions 2i + 24 and
+// 2i + 25), then the controls at the right.
+void Spieltagsansicht::setzeTabfolge() {
+    QWidget* vorher = nullptr;
+    auto weiter = [&vorher](QWidget* w) {
+        if (vorher) setTabOrder(vorher, w);
+        vorher = w;
+    };
+    for (std::size_t k = 0; k < MaxSpiele; ++k) {
+        weiter(txtHeimErgebnis[k]);
+        weiter(txtAusErgebnis[k]);
+    }
+    for (std::size_t i = 0; i < txtHeimTipp.size(); ++i) {
+        weiter(txtHeimTipp[i]);
+        weiter(txtAusTipp[i]);
+    }
+    for (QWidget* w : m_bedienfeld->tabfolge())
+        weiter(w);
 }
 
 void Spieltagsansicht::zeigeSpielernamen(const Spielstand& spiel) {

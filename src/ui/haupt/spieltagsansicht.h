@@ -2,7 +2,6 @@
 
 #include <QFrame>
 #include <array>
-#include <vector>
 
 #include "state/eintraege.h"
 #include "state/spielstand.h"
@@ -14,6 +13,7 @@ class QLabel;
 
 namespace kalimbo::ui {
 
+class Bedienfeld;
 class KlickLabel;
 
 // The matchday view ("fraSpiele"): the fixtures with their result boxes, one column of tip boxes
@@ -39,8 +39,8 @@ class Spieltagsansicht : public QFrame {
     void zeigeSpielernamen(const Spielstand& spiel);
     void setzeLayout(const Saisonlayout& layout);
     bool sonntagsspieleAuslassen() const;
-    // The boxes in tab order: results down the matches, then each player's column.
-    std::vector<QWidget*> tabfolge() const;
+    // The controls at its right: current matchday, Sunday matches, "Auswertung".
+    Bedienfeld* bedienfeld() const { return m_bedienfeld; }
 
   signals:
     void teamGeklickt(int spiel, int seite);
@@ -62,11 +62,13 @@ class Spieltagsansicht : public QFrame {
     QFrame* linTrenn = nullptr;
     QLabel *lblSptgZeile = nullptr, *lblGesamtZeile = nullptr;
     QCheckBox* chkSonntag = nullptr;
+    Bedienfeld* m_bedienfeld = nullptr;
     // The value each kind of box had when it began to be edited (Eingabefeld::Art).
     std::array<i16, 4> m_wertBeiFokus{};
 
     void erzeugeSpiel(int k);
     void erzeugeSpielerspalte(int p);
+    void setzeTabfolge();
     Eingabefeld* eingabefeld(QWidget* eltern, const char* name, int index, Eingabefeld::Art art);
     void feld_GotFocus(Eingabefeld* feld);
     void feld_LostFocus(Eingabefeld* feld);
