@@ -9,6 +9,7 @@
 #include "state/saisonimport.h"
 #include "state/spieldatei.h"
 #include "tabellen.h"
+#include "zusammenfuehren.h"
 
 namespace kalimbo::cli {
 
@@ -105,6 +106,11 @@ const std::vector<Befehl>& befehle() {
         {"spieler",
          "spieler SPIEL.tip [AUSWERTUNG]         wertet aus und zeigt die Gesamtwertung der Spieler",
          spieler},
+        {"zusammenfuehren",
+         "zusammenfuehren ZIEL.tip QUELLE.tip AUSGABE.tip\n"
+         "                                         führt QUELLE in ZIEL ein (Ergebnisse und Tipps von ZIEL\n"
+         "                                         bleiben, wo sie nicht 0:0 sind) und speichert als AUSGABE",
+         zusammenfuehren},
     };
     return alle;
 }

@@ -2,8 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <sstream>
-
+#include "cli/lauf.h"
 #include "cli/tabellen.h"
 #include "state/spieldatei.h"
 #include "testdaten.h"
@@ -11,17 +10,8 @@
 namespace kalimbo::cli {
 namespace {
 
-struct Lauf {
-    int code;
-    std::string aus;
-    std::string fehler;
-};
-
-Lauf starte(const std::vector<std::string>& argumente) {
-    std::ostringstream aus, fehler;
-    const int code = fuehreAus(argumente, aus, fehler);
-    return {code, aus.str(), fehler.str()};
-}
+using test::Lauf;
+using test::starte;
 
 TEST(Cli, NeuUndInfo) {
     test::TempOrdner ordner;

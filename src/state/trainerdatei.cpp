@@ -1,0 +1,57 @@
+#include "trainerdatei.h"
+
+#include <fstream>
+
+#include "dateifelder.h"
+
+namespace kalimbo {
+
+namespace {
+
+// The matchday index of an active record, 0..37, or for the end also 99.
+void pruefeSpieltag(i16 spieltag, bool ende, int datensatz) {
+    if ((spieltag >= 0 && spieltag < MaxSpieltage) || (ende && spieltag == KeinAktuellerSpieltag)) return;
+    throw datei::Schaden{"der " + std::to_string(datensatz + 1) + ". Trainerwechsel " +
+                         (ende ? "endet" : "beginnt") + " mit dem Spieltag-Index " +
+                         std::to_string(spieltag) + " (erlaubt sind 0 bis 37" +
+                         (ende ? ", für „bis heute“ 99" : "") + ")."};
+}
+
+std::size_t groessteTrainerdatei() {
+    datei::Groesstmass mass;
+    for (const auto& t : Trainerwechseldaten{})
+        datei::trainerdatensatz(t, mass);
+    return mass.ergebnis();
+}
+
+}  // namespace
+
+Trainerwechseldaten leseTrainerdatei(std::istream& ein, const std::string& name) {
+    static const std::size_t hoechstens = groessteTrainerdatei();
+    const datei::Anfang anfang = datei::leseAnfang(ein, hoechstens, name);
+    Trainerwechseldaten trainer;
+    int datensatz = 0;
+    try {
+        datei::Leser leser(anfang.bytes);
+        for (; datensatz < trainer.groesse(); ++datensatz) {
+            Trainerdaten& t = trainer[datensatz];
+            datei::trainerdatensatz(t, leser);
+            if (t.Aktiv == 0) continue;
+            pruefeSpieltag(t.VonSpieltag, false, datensatz);
+            pruefeSpieltag(t.BisSpieltag, true, datensatz);
+        }
+    } catch (const datei::DatenEnde&) {
+        throw Dateifehler("Die Datei „" + name + "“ enthält keine Trainerwechsel-Daten: sie endet im " +
+                          std::to_string(datensatz + 1) + ". der zehn Datensätze.");
+    } catch (const datei::Schaden& s) {
+        throw Dateifehler("Die Datei „" + name + "“ enthält keine Trainerwechsel-Daten: " + s.grund);
+    }
+    return trainer;
+}
+
+Trainerwechseldaten ladeTrainerdatei(const std::filesystem::path& pfad) {
+    std::ifstream ein = datei::oeffneZumLesen(pfad);
+    return leseTrainerdatei(ein, pfad.string());
+}
+
+}  // namespace kalimbo
