@@ -11,6 +11,8 @@
 #include "scoring/regeln.h"
 #include "state/eintraege.h"
 #include "state/spieldatei.h"
+#include "state/tippimport.h"
+#include "state/trainerdatei.h"
 #include "ui/bausteine/dialoge.h"
 #include "ui/bausteine/elemente.h"
 #include "ui/bausteine/fehlergrenze.h"
@@ -110,6 +112,8 @@ void frmVela_Haupt::verbindeMenue() {
     const Hauptmenue& m = m_menue;
     verbinde(m.menOeffnen, [this] { menOeffnen_Click(); });
     verbinde(m.menSpeichern, [this] { menSpeichern_Click(); });
+    verbinde(m.menTippdatei, [this] { menTippdatei_Click(); });
+    verbinde(m.menImpTrainer, [this] { menImpTrainer_Click(); });
     for (int i = 0; i < 3; ++i)
         verbinde(m.menRecent[static_cast<std::size_t>(i)], [this, i] { menRecent_Click(i); });
     connect(m.menBeenden, &QAction::triggered, this, [this] {
@@ -170,22 +174,44 @@ void frmVela_Haupt::oeffne(const QString& angabe) {
     fangeFehler(this, m_dialoge, [&] {
         const QString pfad = QFileInfo(angabe).absoluteFilePath();
         const Dateiinhalt inhalt = ladeSpieldatei(pfadVon(pfad));
+        m_spiel.oeffne(inhalt);
         setzeAktuelleDatei(pfad, true);
-        nachDemOeffnen(pfad, QFileInfo(pfad).fileName(), inhalt);
+        nachDemOeffnen(pfad, QFileInfo(pfad).fileName());
     });
 }
 
 // A recent file is opened without becoming the file a later save proposes.
 void frmVela_Haupt::menRecent_Click(int eintrag) {
     const ZuletztListe::Eintrag datei = m_zuletzt.eintraege[static_cast<std::size_t>(eintrag)];
-    const Dateiinhalt inhalt = ladeSpieldatei(pfadVon(datei.pfad));
+    m_spiel.oeffne(ladeSpieldatei(pfadVon(datei.pfad)));
     setzeAktuelleDatei(datei.pfad, false);
-    nachDemOeffnen(datei.pfad, datei.titel, inhalt);
+    nachDemOeffnen(datei.pfad, datei.titel);
+}
+
+// Results and tips of another game file fill those of this game that are still 0:0; every other
+// field becomes the other file's, which is then the file a save proposes.
+void frmVela_Haupt::menTippdatei_Click() {
+    const QString pfad = waehleSpieldatei(m_dialoge, this);
+    if (pfad.isEmpty()) return;
+    const Dateiinhalt andere = ladeSpieldatei(pfadVon(pfad));
+    TakeEntries();
+    fuegeTippdateiEin(m_spiel, andere);
+    setzeAktuelleDatei(pfad, true);
+    nachDemOeffnen(pfad, QFileInfo(pfad).fileName());
+    geaendert();
+}
+
+// The coach periods of any file; the file does not become the game's file.
+void frmVela_Haupt::menImpTrainer_Click() {
+    const QString pfad = waehleSpieldatei(m_dialoge, this);
+    if (pfad.isEmpty()) return;
+    m_spiel.Trainerwechsel = ladeTrainerdatei(pfadVon(pfad));
+    zeigeTrainermenue(m_menue, m_spiel);
+    geaendert();
 }
 
 // The game just read is shown at once with the figures of an evaluation.
-void frmVela_Haupt::nachDemOeffnen(const QString& pfad, const QString& titel, const Dateiinhalt& inhalt) {
-    m_spiel.oeffne(inhalt);
+void frmVela_Haupt::nachDemOeffnen(const QString& pfad, const QString& titel) {
     m_zuletzt.hinzufuegen(pfad, titel);
     wendeSpielAn();
     zeigeZuletztMenue();

@@ -73,7 +73,10 @@ class frmVela_Haupt : public QMainWindow {
     void menOeffnen_Click();
     void menSpeichern_Click();
     void menRecent_Click(int eintrag);
-    void nachDemOeffnen(const QString& pfad, const QString& titel, const Dateiinhalt& inhalt);
+    void menTippdatei_Click();
+    void menImpTrainer_Click();
+    // After a game was read into the state: recent list, the game applied to the window, evaluated.
+    void nachDemOeffnen(const QString& pfad, const QString& titel);
     void setzeAktuelleDatei(const QString& pfad, bool alsSpeicherziel);
     void zeigeZuletztMenue();
 

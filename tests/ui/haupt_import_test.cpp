@@ -1,0 +1,174 @@
+// Importing into the game from the main window: merging the results and tips of another game file
+// ("Tippdatei") and loading coach periods ("Trainerwechsel-Daten").
+#include <sstream>
+
+#include "cli/befehle.h"
+#include "hauptfenster.h"
+#include "state/spieldatei.h"
+
+using namespace kalimbo;
+using namespace kalimbo::ui;
+using namespace kalimbo::ui::test;
+
+class HauptImportTest : public QObject {
+    Q_OBJECT
+
+    static void importiere(Hauptfenster& h, const char* eintrag, const QString& pfad) {
+        h.dialoge.antworten << pfad;
+        h.aktion(eintrag)->trigger();
+    }
+    // Another file of the same league: other names, a result and tips where this game has none.
+    static Dateiinhalt andereDatei() {
+        Dateiinhalt d = kleinesSpiel();
+        d.Spielername[Anna] = "Anne";
+        d.LigaInfo[0] = "Andere Liga";
+        d.ErgebnisDatei[2][0] = {{2, 1}};     // matchday 2 has no results here: taken
+        d.ErgebnisDatei[1][0] = {{5, 5}};     // 1:0 here: kept
+        d.TippDatei[Anna][1][5] = {{3, 1}};   // Anna's 0:0: taken
+        d.TippDatei[Bernd][1][0] = {{0, 4}};  // Bernd's 1:0: kept
+        d.SptgAuswerten[2] = 1;
+        return d;
+    }
+
+    // A coach-change file: the ten records from the first byte, as a game file ends with them.
+    static QString trainerdatei(const Hauptfenster& h, const Feld<Trainerdaten, 10>& trainer) {
+        Dateiinhalt mit, ohne;
+        mit.Trainerwechsel = trainer;
+        const std::string alles = kodiereSpieldatei(mit);
+        const std::size_t laenge = alles.size() - (kodiereSpieldatei(ohne).size() - 10 * 8);
+        const QString pfad = h.ordner.filePath("trainer.dat");
+        QFile f(pfad);
+        f.open(QIODevice::WriteOnly);
+        f.write(QByteArray::fromStdString(alles.substr(alles.size() - laenge)));
+        return pfad;
+    }
+
+  private slots:
+    void tippdateiFuelltNurLeeres() {
+        Hauptfenster h;
+        h.oeffneSpiel();
+        h.feld("txtHeimTipp", Dieter * 10 + 6)->setText("7");  // typed, not yet taken: kept too
+        const QString andere = h.speichere("andere.tip", andereDatei());
+        importiere(h, "menTippdatei", andere);
+        QCOMPARE(h.meldungen(), QStringList());
+        QCOMPARE(h.spiel().getErgebnis(2, 0, 0), 2);
+        QCOMPARE(h.spiel().getErgebnis(2, 0, 1), 1);
+        QCOMPARE(h.spiel().getErgebnis(1, 0, 0), 1);
+        QCOMPARE(h.spiel().getTipp(Anna, 1, 5, 0), 3);
+        QCOMPARE(h.spiel().getTipp(Bernd, 1, 0, 1), 0);
+        QCOMPARE(h.spiel().getTipp(Dieter, 1, 6, 0), 7);
+        QCOMPARE(h.spiel().getSpielerName(Anna), std::string("Anne"));
+        QCOMPARE(h.spiel().getLigaInfo(), std::string("Andere Liga"));
+        // Then as after opening: the other file is the one a save proposes, listed first, shown
+        // evaluated on its last selected matchday.
+        QCOMPARE(QString::fromStdString(h.spiel().Dateipfad), andere);
+        QCOMPARE(h.aktion("menRecent_1")->text(), QStringLiteral("andere.tip"));
+        QCOMPARE(h.spiel().getAktSpieltag(), 2);
+        QCOMPARE(h.label("lblSpieler", Anna)->text(), QStringLiteral("Anne"));
+        QVERIFY(h.fenster->isWindowModified());
+    }
+
+    // A 0:0 counts as empty, a real one too: merging into a game without any entries takes all.
+    void inEinLeeresSpielKommtAlles() {
+        Hauptfenster h;
+        Dateiinhalt leer = kleinesSpiel();
+        leer.ErgebnisDatei = {};
+        leer.TippDatei = {};
+        h.oeffneSpiel(leer);
+        importiere(h, "menTippdatei", h.speichere("voll.tip", kleinesSpiel()));
+        const Dateiinhalt voll = kleinesSpiel();
+        for (int tag = 0; tag < 2; ++tag)
+            for (int k = 0; k < 9; ++k) {
+                QCOMPARE(h.spiel().getErgebnis(tag, k, 0), voll.ErgebnisDatei[tag][k][0]);
+                QCOMPARE(h.spiel().getTipp(Dieter, tag, k, 1), voll.TippDatei[Dieter][tag][k][1]);
+            }
+        QCOMPARE(h.label("lblGesamtPunkte", Bernd)->text(), QStringLiteral("16"));
+    }
+
+    void kommandozeileSpeichertDasselbeWieDasFenster() {
+        Hauptfenster h;
+        const QString ziel = h.speichere("ziel.tip", kleinesSpiel());
+        const QString quelle = h.speichere("quelle.tip", andereDatei());
+        const QString ausgabe = h.ordner.filePath("cli.tip");
+        std::ostringstream aus, fehler;
+        QCOMPARE(cli::fuehreAus(
+                     {"zusammenfuehren", ziel.toStdString(), quelle.toStdString(), ausgabe.toStdString()},
+                     aus, fehler),
+                 0);
+        h.oeffne(ziel);
+        importiere(h, "menTippdatei", quelle);
+        h.dialoge.antworten << h.ordner.filePath("fenster.tip");
+        h.aktion("menSpeichern")->trigger();
+        QFile a(ausgabe), b(h.ordner.filePath("fenster.tip"));
+        QVERIFY(a.open(QIODevice::ReadOnly) && b.open(QIODevice::ReadOnly));
+        QCOMPARE(a.readAll(), b.readAll());
+    }
+
+    void beschaedigteTippdateiAendertNichts() {
+        Hauptfenster h;
+        h.oeffneSpiel();
+        const QString kaputt = h.ordner.filePath("kaputt.tip");
+        QFile f(kaputt);
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write(QByteArray(300, '\x7f'));
+        f.close();
+        importiere(h, "menTippdatei", kaputt);
+        QCOMPARE(h.meldungen().size(), 1);
+        QCOMPARE(h.spiel().getSpielerName(Anna), std::string("Anna"));
+        QCOMPARE(h.spiel().Dateititel, std::string("spiel.tip"));
+        QCOMPARE(h.aktion("menRecent_1")->text(), QStringLiteral("spiel.tip"));
+        QVERIFY(!h.fenster->isWindowModified());
+    }
+
+    void trainerwechselDaten() {
+        Hauptfenster h;
+        Dateiinhalt ohne = kleinesSpiel();
+        ohne.Trainerwechsel = {};
+        h.oeffneSpiel(ohne);
+        Feld<Trainerdaten, 10> trainer;
+        trainer[0] = {0, "Vorgänger", 0, 4};  // inactive: item 0 shown, disabled
+        trainer[1] = {1, "Neuer Trainer", 0, 99};
+        trainer[5] = {0, "Weg", 2, 3};
+        trainer[6] = {1, "Interim", 1, 1};
+        importiere(h, "menImpTrainer", trainerdatei(h, trainer));
+        QCOMPARE(h.meldungen(), QStringList());
+        QVERIFY(h.aktion("menDieserTrainer_0")->isVisible() && !h.aktion("menDieserTrainer_0")->isEnabled());
+        QCOMPARE(h.aktion("menDieserTrainer_0")->text(), QStringLiteral("Vorgänger"));
+        QVERIFY(h.aktion("menDieserTrainer_1")->isVisible() && h.aktion("menDieserTrainer_1")->isEnabled());
+        QVERIFY(!h.aktion("menDieserTrainer_5")->isVisible());
+        QCOMPARE(h.aktion("menDieserTrainer_6")->text(), QStringLiteral("Interim"));
+        // Neither the game's file nor the recent list changes.
+        QCOMPARE(h.spiel().Dateititel, std::string("spiel.tip"));
+        QCOMPARE(h.aktion("menRecent_1")->text(), QStringLiteral("spiel.tip"));
+        QVERIFY(!h.aktion("menRecent_2")->isVisible());
+        // Open to the current matchday (index 1): matchdays 0 and 1.
+        h.klick(h.label("lblAuswahl", 0));
+        h.aktion("menDieserTrainer_1")->trigger();
+        QVERIFY(h.label("lblAuswahl", 0)->autoFillBackground() &&
+                h.label("lblAuswahl", 1)->autoFillBackground());
+        QVERIFY(!h.label("lblAuswahl", 2)->autoFillBackground());
+        QCOMPARE(h.spiel().getSptgAuswerten(1), 1);
+    }
+
+    void zuKurzeTrainerdateiAendertNichts() {
+        Hauptfenster h;
+        h.oeffneSpiel();
+        const QString kurz = h.ordner.filePath("kurz.tip");
+        QFile f(kurz);
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write(
+            QByteArray("\x01\x00\x02\x00"
+                       "AB\x00\x00\x05\x00",
+                       10));  // one record of ten
+        f.close();
+        importiere(h, "menImpTrainer", kurz);
+        const QStringList meldungen = h.meldungen();
+        QCOMPARE(meldungen.size(), 1);
+        QVERIFY2(meldungen[0].contains(QStringLiteral("kurz.tip")), qPrintable(meldungen[0]));
+        QCOMPARE(h.aktion("menDieserTrainer_0")->text(), QStringLiteral("Trainer Alt"));
+        QCOMPARE(h.spiel().Trainerwechsel[1].Name, std::string("Trainer Neu"));
+    }
+};
+
+KALIMBO_UI_TEST_MAIN(HauptImportTest)
+#include "haupt_import_test.moc"
