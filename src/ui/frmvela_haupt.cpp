@@ -21,6 +21,7 @@
 #include "ui/frmspieler.h"
 #include "ui/haupt/bedienfeld.h"
 #include "ui/haupt/blitztabelle.h"
+#include "ui/haupt/dokument.h"
 #include "ui/haupt/infobox.h"
 #include "ui/haupt/saisonlayout.h"
 #include "ui/haupt/spieltagsansicht.h"
@@ -45,17 +46,24 @@ frmVela_Haupt::frmVela_Haupt(Dialoge& dialoge, const QString& startdatei, QWidge
     setFont(schrift);
     m_menue = baueHauptmenue(menuBar());
     baueFenster();
+    m_dokument = new Dokument(this, m_spiel, [this] {
+        Spielstand kopie = m_spiel;
+        uebernimmEintraege(kopie, m_ansicht->eintraege());
+        kopie.kopiereArbeitInDatei();
+        return static_cast<Dateiinhalt>(kopie);
+    });
     verbindePanels();
     verbindeMenue();
-    setWindowTitle(QStringLiteral("Kalimbo[*]"));
     m_zuletzt.laden();
-    zeigeZuletztMenue();
+    zeigeZuletzt(m_menue, m_zuletzt);
     m_bedienfeld->zeige(m_spiel);
-    // A game named on the command line ends by showing its last selected matchday, so matchday 0
-    // of the empty game need not be drawn first.
-    if (!startdatei.isEmpty()) oeffne(startdatei);
-    fangeFehler(this, m_dialoge, [this] {
-        if (m_spiel.Dateipfad.empty()) lblSpieltagWahl_Click(0);
+    // A game recovered or named on the command line ends by showing its last selected matchday, so
+    // matchday 0 of the empty game need not be drawn first.
+    const bool wiederhergestellt = m_dokument->stelleWiederHer(m_dialoge);
+    if (wiederhergestellt) fangeFehler(this, m_dialoge, [this] { zeigeGeladenesSpiel(); });
+    if (!wiederhergestellt && !startdatei.isEmpty()) oeffne(startdatei);
+    fangeFehler(this, m_dialoge, [&] {
+        if (!wiederhergestellt && m_spiel.Dateipfad.empty()) lblSpieltagWahl_Click(0);
         lblSpieler_Click(0);
     });
 }
@@ -160,7 +168,12 @@ void frmVela_Haupt::zeigeBeimStart() {
 }
 
 void frmVela_Haupt::geaendert() {
-    setWindowModified(true);
+    m_dokument->geaendert();
+}
+
+void frmVela_Haupt::closeEvent(QCloseEvent* ereignis) {
+    m_dokument->schliesst();
+    QMainWindow::closeEvent(ereignis);
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -173,10 +186,8 @@ void frmVela_Haupt::menOeffnen_Click() {
 void frmVela_Haupt::oeffne(const QString& angabe) {
     fangeFehler(this, m_dialoge, [&] {
         const QString pfad = QFileInfo(angabe).absoluteFilePath();
-        const Dateiinhalt inhalt = ladeSpieldatei(pfadVon(pfad));
-        m_spiel.oeffne(inhalt);
-        setzeAktuelleDatei(pfad, true);
-        nachDemOeffnen(pfad, QFileInfo(pfad).fileName());
+        m_spiel.oeffne(ladeSpieldatei(pfadVon(pfad)));
+        nachDemOeffnen(pfad, QFileInfo(pfad).fileName(), true);
     });
 }
 
@@ -184,8 +195,7 @@ void frmVela_Haupt::oeffne(const QString& angabe) {
 void frmVela_Haupt::menRecent_Click(int eintrag) {
     const ZuletztListe::Eintrag datei = m_zuletzt.eintraege[static_cast<std::size_t>(eintrag)];
     m_spiel.oeffne(ladeSpieldatei(pfadVon(datei.pfad)));
-    setzeAktuelleDatei(datei.pfad, false);
-    nachDemOeffnen(datei.pfad, datei.titel);
+    nachDemOeffnen(datei.pfad, datei.titel, false);
 }
 
 // Results and tips of another game file fill those of this game that are still 0:0; every other
@@ -196,8 +206,7 @@ void frmVela_Haupt::menTippdatei_Click() {
     const Dateiinhalt andere = ladeSpieldatei(pfadVon(pfad));
     TakeEntries();
     fuegeTippdateiEin(m_spiel, andere);
-    setzeAktuelleDatei(pfad, true);
-    nachDemOeffnen(pfad, QFileInfo(pfad).fileName());
+    nachDemOeffnen(pfad, QFileInfo(pfad).fileName(), true);
     geaendert();
 }
 
@@ -210,13 +219,11 @@ void frmVela_Haupt::menImpTrainer_Click() {
     geaendert();
 }
 
-// The game just read is shown at once with the figures of an evaluation.
-void frmVela_Haupt::nachDemOeffnen(const QString& pfad, const QString& titel) {
+void frmVela_Haupt::nachDemOeffnen(const QString& pfad, const QString& titel, bool alsSpeicherziel) {
+    m_dokument->geladen(pfad, alsSpeicherziel);
     m_zuletzt.hinzufuegen(pfad, titel);
-    wendeSpielAn();
-    zeigeZuletztMenue();
-    setWindowModified(false);
-    auswerten(QStringLiteral("---"));
+    zeigeZuletzt(m_menue, m_zuletzt);
+    zeigeGeladenesSpiel();
 }
 
 void frmVela_Haupt::menSpeichern_Click() {
@@ -225,30 +232,19 @@ void frmVela_Haupt::menSpeichern_Click() {
     const QString pfad = waehleSpeicherort(m_dialoge, this, text(m_spiel.Dateipfad));
     if (pfad.isEmpty()) return;
     speichereSpieldatei(pfadVon(pfad), m_spiel);
-    setzeAktuelleDatei(pfad, true);
+    m_dokument->gespeichert(pfad);
     m_zuletzt.hinzufuegen(pfad, QFileInfo(pfad).fileName());
-    zeigeZuletztMenue();
-    setWindowModified(false);
-}
-
-// The window title names the file loaded; the file a save proposes (Dateipfad, Dateititel) is the
-// one last opened through the dialog or saved.
-void frmVela_Haupt::setzeAktuelleDatei(const QString& pfad, bool alsSpeicherziel) {
-    const QString titel = QFileInfo(pfad).fileName();
-    if (alsSpeicherziel) {
-        m_spiel.Dateipfad = pfad.toStdString();
-        m_spiel.Dateititel = titel.toStdString();
-    }
-    setWindowTitle(titel + QStringLiteral("[*] - Kalimbo"));
-}
-
-void frmVela_Haupt::zeigeZuletztMenue() {
     zeigeZuletzt(m_menue, m_zuletzt);
-    m_wahl->zeige(m_spiel);
 }
 
 // ---------------------------------------------------------------------------------------------
 // The game on screen
+
+// The game just read (or recovered) is shown at once with the figures of an evaluation.
+void frmVela_Haupt::zeigeGeladenesSpiel() {
+    wendeSpielAn();
+    auswerten(QStringLiteral("---"));
+}
 
 void frmVela_Haupt::wendeSpielAn() {
     m_wahl->zeige(m_spiel);

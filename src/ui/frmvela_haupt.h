@@ -13,6 +13,7 @@ namespace kalimbo::ui {
 class Bedienfeld;
 class Blitztabelle;
 class Dialoge;
+class Dokument;
 class frmRegel;
 class frmSpieler;
 class Infobox;
@@ -43,12 +44,16 @@ class frmVela_Haupt : public QMainWindow {
     void setFarbeMod(int art, Farbe farbe);
     void HoleSpielerDaten(const SpielerDatenQuelle& quelle);
 
+  protected:
+    void closeEvent(QCloseEvent* ereignis) override;
+
   private:
     Dialoge& m_dialoge;
     Spielstand m_spiel;
     ZuletztListe m_zuletzt;
     Hauptmenue m_menue{};
     int m_ausgewaehlterSpieler = 0;
+    Dokument* m_dokument;
 
     Spieltagswahl* m_wahl;
     Spieltagsansicht* m_ansicht;
@@ -75,12 +80,11 @@ class frmVela_Haupt : public QMainWindow {
     void menRecent_Click(int eintrag);
     void menTippdatei_Click();
     void menImpTrainer_Click();
-    // After a game was read into the state: recent list, the game applied to the window, evaluated.
-    void nachDemOeffnen(const QString& pfad, const QString& titel);
-    void setzeAktuelleDatei(const QString& pfad, bool alsSpeicherziel);
-    void zeigeZuletztMenue();
+    // After a game was read into the state: the file noted, the recent list, the game shown.
+    void nachDemOeffnen(const QString& pfad, const QString& titel, bool alsSpeicherziel);
 
     // The game on screen.
+    void zeigeGeladenesSpiel();
     void wendeSpielAn();
     void passeLayoutAn();
     void ShowMatchday();

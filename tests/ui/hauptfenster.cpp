@@ -4,6 +4,7 @@
 #include <QSettings>
 
 #include "state/spieldatei.h"
+#include "ui/haupt/wiederherstellung.h"
 
 namespace kalimbo::ui::test {
 
@@ -67,13 +68,18 @@ Dateiinhalt kleinesSpiel(int teams) {
     return d;
 }
 
-Hauptfenster::Hauptfenster() {
+Hauptfenster::Hauptfenster() : Hauptfenster(Wiederherstellen{false}) {}
+
+Hauptfenster::Hauptfenster(Wiederherstellen antwort) {
     QSettings(QStringLiteral("zorb 5.0"), QStringLiteral("Kalimbo")).clear();
+    dialoge.jaNein << antwort.ja;
     fenster = std::make_unique<frmVela_Haupt>(dialoge);
+    dialoge.jaNein.clear();
 }
 
 Hauptfenster::~Hauptfenster() {
     fenster.reset();
+    Wiederherstellung().verwerfe();  // nothing a test changed is offered to the next one
     if (!dialoge.meldungen.isEmpty())
         QTest::qFail(qPrintable("unexpected messages: " + dialoge.meldungen.join(" | ")), __FILE__, __LINE__);
 }

@@ -6,6 +6,7 @@
 #include <QTest>
 #include <memory>
 
+#include "state/spieldatei.h"
 #include "state/spielstand.h"
 #include "testdialoge.h"
 #include "ui/frmvela_haupt.h"
@@ -31,7 +32,12 @@ constexpr int Anna = 0, Bernd = 1, Clara = 2, Dieter = 3;
 // One main window on fresh settings, with scripted dialogs and a temporary folder.
 class Hauptfenster {
   public:
+    // How the question for a recovery copy left by another run is answered.
+    struct Wiederherstellen {
+        bool ja;
+    };
     Hauptfenster();
+    explicit Hauptfenster(Wiederherstellen antwort);
     ~Hauptfenster();
 
     TestDialoge dialoge;

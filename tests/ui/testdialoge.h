@@ -13,6 +13,8 @@ class TestDialoge : public Dialoge {
     QStringList titel;        // titles of the file dialogs shown
     QStringList vorschlaege;  // names proposed by save dialogs
     QStringList meldungen;    // texts of the message boxes shown
+    QStringList fragen;       // questions asked
+    QList<bool> jaNein;       // answers to the next questions; "Nein" when none is left
 
     QString oeffnen(QWidget*, const QString& t, const QString&) override {
         titel << t;
@@ -24,6 +26,10 @@ class TestDialoge : public Dialoge {
         return antworten.isEmpty() ? QString() : antworten.takeFirst();
     }
     void meldung(QWidget*, const QString& text) override { meldungen << text; }
+    bool frage(QWidget*, const QString& text) override {
+        fragen << text;
+        return !jaNein.isEmpty() && jaNein.takeFirst();
+    }
 };
 
 }  // namespace kalimbo::ui::test

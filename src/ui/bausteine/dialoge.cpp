@@ -57,4 +57,8 @@ void QtDialoge::meldung(QWidget* eltern, const QString& text) {
     QMessageBox::information(eltern, QStringLiteral("Kalimbo"), text);
 }
 
+bool QtDialoge::frage(QWidget* eltern, const QString& text) {
+    return QMessageBox::question(eltern, QStringLiteral("Kalimbo"), text) == QMessageBox::Yes;
+}
+
 }  // namespace kalimbo::ui

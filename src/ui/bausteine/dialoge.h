@@ -18,6 +18,8 @@ class Dialoge {
                               const QString& vorschlag) = 0;
     // A message with only an OK button.
     virtual void meldung(QWidget* eltern, const QString& text) = 0;
+    // A question with "Ja" and "Nein"; true for "Ja".
+    virtual bool frage(QWidget* eltern, const QString& text) = 0;
 };
 
 // The real dialogs.
@@ -27,6 +29,7 @@ class QtDialoge : public Dialoge {
     QString speichern(QWidget* eltern, const QString& titel, const QString& filter,
                       const QString& vorschlag) override;
     void meldung(QWidget* eltern, const QString& text) override;
+    bool frage(QWidget* eltern, const QString& text) override;
 };
 
 // The game file to open (also to merge tips from, or to read coach periods from), as an absolute
