@@ -5,6 +5,7 @@
 #include <ostream>
 
 #include "aufruf.h"
+#include "haeufigkeitstabelle.h"
 #include "info.h"
 #include "state/saisonimport.h"
 #include "state/spieldatei.h"
@@ -111,6 +112,9 @@ const std::vector<Befehl>& befehle() {
          "                                         führt QUELLE in ZIEL ein (Ergebnisse und Tipps von ZIEL\n"
          "                                         bleiben, wo sie nicht 0:0 sind) und speichert als AUSGABE",
          zusammenfuehren},
+        {"haeufigkeiten",
+         "haeufigkeiten SPIEL.tip                zeigt, wie oft jedes Ergebnis eintrat und getippt wurde",
+         haeufigkeiten},
     };
     return alle;
 }
