@@ -1,7 +1,5 @@
 #include "haeufigkeiten.h"
 
-#include <algorithm>
-
 namespace kalimbo {
 
 namespace {
@@ -34,6 +32,18 @@ Farbe mische(Farbe von, Farbe nach, double anteil) {
     return ergebnis;
 }
 
+// The class with the longest match list, the lowest on a tie; -1 when all are empty.
+int haeufigste(const Feld<std::vector<Begegnung>, AnzErgebnisklassen>& klassen) {
+    int beste = -1;
+    std::size_t besteAnzahl = 0;
+    for (int k = 0; k < AnzErgebnisklassen; ++k)
+        if (klassen[k].size() > besteAnzahl) {
+            beste = k;
+            besteAnzahl = klassen[k].size();
+        }
+    return beste;
+}
+
 }  // namespace
 
 int ergebnisklasse(i16 heim, i16 gast) {
@@ -49,20 +59,16 @@ std::string klassenName(int klasse) {
 }
 
 int Haeufigkeiten::haeufigsterTipp(int spieler) const {
-    int beste = -1, besteAnzahl = 0;
-    for (int k = 0; k < AnzErgebnisklassen; ++k)
-        if (anzahlTipps(spieler, k) > besteAnzahl) {
-            beste = k;
-            besteAnzahl = anzahlTipps(spieler, k);
-        }
-    return beste;
+    return haeufigste(tipps[spieler]);
+}
+
+int Haeufigkeiten::haeufigstesErgebnis() const {
+    return haeufigste(ergebnisse);
 }
 
 int Haeufigkeiten::hoechsteAnzahl() const {
-    int hoechste = 0;
-    for (int k = 0; k < AnzErgebnisklassen; ++k)
-        hoechste = std::max(hoechste, anzahl(k));
-    return hoechste;
+    const int klasse = haeufigstesErgebnis();
+    return klasse < 0 ? 0 : anzahl(klasse);
 }
 
 Haeufigkeiten zaehleHaeufigkeiten(const Spielstand& s) {

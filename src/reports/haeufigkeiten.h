@@ -41,6 +41,8 @@ struct Haeufigkeiten {
     int anzahlTipps(int spieler, int klasse) const { return static_cast<int>(tipps[spieler][klasse].size()); }
     // The class slot `spieler` tipped most often, the lowest class on a tie; -1 when no match counted.
     int haeufigsterTipp(int spieler) const;
+    // The class of the most frequent real result, likewise.
+    int haeufigstesErgebnis() const;
     // The largest count of real results in any class (0 when no match counted).
     int hoechsteAnzahl() const;
 };

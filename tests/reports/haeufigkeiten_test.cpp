@@ -77,6 +77,7 @@ TEST_F(Haeufigkeit, ZaehltErgebnisseUndTippsJeKlasseUeberDieAusgewaehltenSpielta
     // Slot 2 tipped 0:1, 1:0 and 5:5 twice each: the lowest class wins the tie.
     EXPECT_EQ(haeufigster, (std::vector<int>{21, 0, 1, 0}));
     EXPECT_EQ(h.hoechsteAnzahl(), 2);
+    EXPECT_EQ(h.haeufigstesErgebnis(), 21);
 }
 
 TEST_F(Haeufigkeit, ListetDieSpieleEinesErgebnissesUndDieSoGetipptenDerTeilnehmer) {
@@ -107,6 +108,7 @@ TEST_F(Haeufigkeit, OhneAusgewaehlteSpieltageZaehltNichts) {
     s.Ergebnis[2][0] = {{0, 0}};  // a 0:0 on the deselected matchday stays uncounted too
     const Haeufigkeiten h = zaehleHaeufigkeiten(s);
     EXPECT_EQ(h.hoechsteAnzahl(), 0);
+    EXPECT_EQ(h.haeufigstesErgebnis(), -1);
     for (int p = 0; p < MaxSpieler; ++p) {
         EXPECT_EQ(h.haeufigsterTipp(p), -1);
         EXPECT_EQ(h.treffer[p], 0);
