@@ -4,44 +4,15 @@
 
 #include <map>
 
+#include "kleinesspiel.h"
 #include "state/fehler.h"
-#include "testdaten.h"
 
 namespace kalimbo {
 namespace {
 
-// Six teams A..F, three matches a matchday, matchdays 0 and 1 selected, matchday 2 not (its
-// results and tips, all 2:1, must count nowhere). Anna and Bernd take part; slot 2 does not but is
-// counted all the same; slots 3-8 keep their 0:0 tips and do not take part either.
 class Haeufigkeit : public testing::Test {
   protected:
-    void SetUp() override {
-        s.AnzTeams = 5;
-        s.AnzSpiele = 2;
-        s.AnzSpieltage = 2;
-        for (int t = 0; t <= 5; ++t)
-            s.TeamnameKurz[t] = std::string(1, static_cast<char>('A' + t));
-        for (int tag = 0; tag <= 2; ++tag)
-            for (int spiel = 0; spiel <= 2; ++spiel)
-                s.Paarung[tag][spiel] = {
-                    {static_cast<i16>(2 * spiel + tag % 2), static_cast<i16>(2 * spiel + 1 - tag % 2)}};
-        test::setzeErgebnisse(s, 0, "2:1 0:0 10:2");
-        test::setzeErgebnisse(s, 1, "2:1 1:1 0:3");
-        test::setzeErgebnisse(s, 2, "2:1 2:1 2:1");
-        test::setzeTipps(s, 0, 0, "2:1 1:0 3:3");
-        test::setzeTipps(s, 0, 1, "2:1 2:1 0:12");
-        test::setzeTipps(s, 1, 1, "1:1 1:1 0:3");  // matchday 0 stays 0:0 0:0 0:0
-        test::setzeTipps(s, 2, 0, "1:0 0:1 5:5");
-        test::setzeTipps(s, 2, 1, "0:1 1:0 5:5");
-        for (int p = 0; p < MaxSpieler; ++p)
-            test::setzeTipps(s, p, 2, "2:1 2:1 2:1");
-        s.Spielername[0] = "Anna";
-        s.Spielername[1] = "Bernd";
-        s.Teilnehmer = {{1, 1, 0, 0, 0, 0, 0, 0, 0}};
-        test::setzeAuswahl(s, "0-1");
-    }
-
-    Spielstand s;
+    Spielstand s = test::kleinesSpiel();
 };
 
 // All 101 counts of one column: the classes named in `ungleichNull`, 0 everywhere else.
@@ -64,8 +35,8 @@ TEST_F(Haeufigkeit, ZaehltErgebnisseUndTippsJeKlasseUeberDieAusgewaehltenSpielta
     }
     EXPECT_EQ(ergebnisse, spalte({{"2:1", 2}, {"0:0", 1}, {"1:1", 1}, {"0:3", 1}, {"andere", 1}}));
     EXPECT_EQ(tipps[0], spalte({{"2:1", 3}, {"1:0", 1}, {"3:3", 1}, {"andere", 1}}));
-    EXPECT_EQ(tipps[1], spalte({{"0:0", 3}, {"1:1", 2}, {"0:3", 1}}));
-    EXPECT_EQ(tipps[2], spalte({{"1:0", 2}, {"0:1", 2}, {"5:5", 2}}));
+    EXPECT_EQ(tipps[1], spalte({{"4:4", 3}, {"0:0", 3}}));  // counted although not taking part
+    EXPECT_EQ(tipps[2], spalte({{"0:0", 3}, {"1:1", 2}, {"0:3", 1}}));
     EXPECT_EQ(tipps[3], spalte({{"0:0", 6}}));
 
     std::vector<int> treffer, haeufigster;
@@ -73,9 +44,9 @@ TEST_F(Haeufigkeit, ZaehltErgebnisseUndTippsJeKlasseUeberDieAusgewaehltenSpielta
         treffer.push_back(h.treffer[p]);
         haeufigster.push_back(h.haeufigsterTipp(p));
     }
-    EXPECT_EQ(treffer, (std::vector<int>{2, 3, 0, 1}));
-    // Slot 2 tipped 0:1, 1:0 and 5:5 twice each: the lowest class wins the tie.
-    EXPECT_EQ(haeufigster, (std::vector<int>{21, 0, 1, 0}));
+    EXPECT_EQ(treffer, (std::vector<int>{2, 0, 3, 1}));
+    // Bernd tipped 0:0 and 4:4 three times each: the lower class wins the tie.
+    EXPECT_EQ(haeufigster, (std::vector<int>{21, 0, 0, 0}));
     EXPECT_EQ(h.hoechsteAnzahl(), 2);
     EXPECT_EQ(h.haeufigstesErgebnis(), 21);
 }
@@ -84,23 +55,23 @@ TEST_F(Haeufigkeit, ListetDieSpieleEinesErgebnissesUndDieSoGetipptenDerTeilnehme
     const Haeufigkeiten h = zaehleHaeufigkeiten(s);
     EXPECT_EQ(spielliste(s, h, 21),
               "Ergebnis 2:1: 2 Spiele\n"
-              "Spieltag 1\tA - B 2:1\n"
-              "Spieltag 2\tB - A 2:1\n"
+              "Spieltag 1\tAAC - BOC 2:1\n"
+              "Spieltag 2\tBOC - AAC 2:1\n"
               "\n"
               "Anna: 3 Tipps\n"
-              "Spieltag 1\tA - B 2:1\n"
-              "Spieltag 2\tB - A 2:1\n"
-              "Spieltag 2\tD - C 1:1\n"
+              "Spieltag 1\tAAC - BOC 2:1\n"
+              "Spieltag 2\tBOC - AAC 2:1\n"
+              "Spieltag 2\tDRE - COT 1:1\n"
               "\n"
-              "Bernd: 0 Tipps\n");
+              "Carl: 0 Tipps\n");
     EXPECT_EQ(spielliste(s, h, KlasseAndere),
               "Andere Ergebnisse: 1 Spiel\n"
-              "Spieltag 1\tE - F 10:2\n"
+              "Spieltag 1\tESS - FÜR 10:2\n"
               "\n"
               "Anna: 1 Tipp\n"
-              "Spieltag 2\tF - E 0:3\n"
+              "Spieltag 2\tFÜR - ESS 0:3\n"
               "\n"
-              "Bernd: 0 Tipps\n");
+              "Carl: 0 Tipps\n");
 }
 
 TEST_F(Haeufigkeit, OhneAusgewaehlteSpieltageZaehltNichts) {
