@@ -1,5 +1,8 @@
 #pragma once
 
+#include <filesystem>
+
+#include "state/spieldatei.h"
 #include "state/spielstand.h"
 #include "testdaten.h"
 
@@ -44,6 +47,12 @@ inline Spielstand kleinesSpiel() {
     s.Teilnehmer = {{1, 0, 1, 0, 0, 0, 0, 0, 0}};
     setzeAuswahl(s, "0-1");
     return s;
+}
+
+// Writes the game with its working results and tips as a game file.
+inline void speichereSpiel(Spielstand s, const std::filesystem::path& pfad) {
+    s.kopiereArbeitInDatei();
+    speichereSpieldatei(pfad, s);
 }
 
 }  // namespace kalimbo::test

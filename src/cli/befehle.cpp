@@ -5,6 +5,7 @@
 #include <ostream>
 
 #include "aufruf.h"
+#include "bogenbefehl.h"
 #include "haeufigkeitstabelle.h"
 #include "info.h"
 #include "state/saisonimport.h"
@@ -115,6 +116,10 @@ const std::vector<Befehl>& befehle() {
         {"haeufigkeiten",
          "haeufigkeiten SPIEL.tip                zeigt, wie oft jedes Ergebnis eintrat und getippt wurde",
          haeufigkeiten},
+        {"html",
+         "html SPIEL.tip [--spieltag N] [--art auswertung|live|tippabgabe]\n"
+         "                                         zeigt einen Spieltag als HTML-Seite (N ab 1)",
+         html},
     };
     return alle;
 }
