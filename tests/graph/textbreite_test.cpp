@@ -8,10 +8,10 @@
 namespace kalimbo::grafik {
 namespace {
 
-TEST(Textbreite, JeZeichenNichtJeByteFettBreiter) {
+TEST(Textbreite, NachBreitenklasseJeZeichenNichtJeByteFettBreiter) {
     const std::vector<std::tuple<const char*, int, bool, int>> faelle{
-        {"Koln", 10, false, 480}, {"Köln", 10, false, 480}, {"Köln", 10, true, 528},
-        {"€", 8, false, 96},      {"", 12, true, 0},
+        {"Koln", 10, false, 492}, {"Köln", 10, false, 528}, {"Köln", 10, true, 604}, {"iiii", 10, false, 336},
+        {"mmmm", 10, false, 800}, {"€", 8, false, 128},     {"", 12, true, 0},
     };
     for (const auto& [text, groesse, fett, breite] : faelle)
         EXPECT_EQ(geschaetzteTextbreite(text, groesse, fett), breite)
