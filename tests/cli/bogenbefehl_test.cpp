@@ -11,6 +11,7 @@ namespace kalimbo::cli {
 namespace {
 
 using test::Lauf;
+using test::erwarteFehlendeDatei;
 using test::starte;
 
 std::string ohneDatum(const std::string& html) {
@@ -47,10 +48,7 @@ TEST_F(CliHtml, SpieltagUndArtMitIhrenVorgaben) {
 }
 
 TEST_F(CliHtml, FehlerUndFalscherAufruf) {
-    const Lauf fehlt = starte({"html", (ordner / "fehlt.tip").string()});
-    EXPECT_EQ(fehlt.code, 1);
-    EXPECT_EQ(fehlt.aus, "");
-    EXPECT_EQ(fehlt.fehler.rfind("Fehler: Die Datei „", 0), 0u) << fehlt.fehler;
+    erwarteFehlendeDatei({"html", (ordner / "fehlt.tip").string()});
     const std::vector<std::pair<std::vector<std::string>, std::string>> falsch{
         {{"html"}, "Falsche Anzahl von Angaben."},
         {{"html", pfad, "--art", "Live"}, "--art erwartet auswertung, live oder tippabgabe, nicht „Live“."},

@@ -10,6 +10,7 @@ namespace kalimbo::cli {
 namespace {
 
 using test::Lauf;
+using test::erwarteFehlendeDatei;
 using test::starte;
 
 TEST(CliHaeufigkeiten, EineZeileJeErgebnisMitDenTippsDerTeilnehmer) {
@@ -34,10 +35,7 @@ TEST(CliHaeufigkeiten, EineZeileJeErgebnisMitDenTippsDerTeilnehmer) {
 
 TEST(CliHaeufigkeiten, FehlerUndFalscherAufruf) {
     test::TempOrdner ordner;
-    const Lauf fehlt = starte({"haeufigkeiten", (ordner / "fehlt.tip").string()});
-    EXPECT_EQ(fehlt.code, 1);
-    EXPECT_EQ(fehlt.aus, "");
-    EXPECT_EQ(fehlt.fehler.rfind("Fehler: Die Datei „", 0), 0u) << fehlt.fehler;
+    erwarteFehlendeDatei({"haeufigkeiten", (ordner / "fehlt.tip").string()});
     for (const std::vector<std::string>& aufruf : std::vector<std::vector<std::string>>{
              {"haeufigkeiten"}, {"haeufigkeiten", "a.tip", "b.tip"}, {"haeufigkeiten", "a.tip", "--alle"}}) {
         const Lauf l = starte(aufruf);

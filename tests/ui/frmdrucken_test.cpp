@@ -17,11 +17,11 @@
 #include <memory>
 #include <sstream>
 
+#include "fenstertest.h"
 #include "graph/textbreite.h"
 #include "kleinesspiel.h"
 #include "scoring/auswertung.h"
 #include "state/spieldatei.h"
-#include "testdialoge.h"
 #include "ui/bausteine/elemente.h"
 #include "ui/bausteine/maler.h"
 #include "ui/pdfbefehl.h"
@@ -68,20 +68,12 @@ QStringList texte(const QByteArray& html) {
 
 }  // namespace
 
-class FrmDruckenTest : public QObject {
+class FrmDruckenTest : public ui::test::FensterTest<frmDrucken> {
     Q_OBJECT
 
     std::unique_ptr<QTemporaryDir> ordner;
-    std::unique_ptr<ui::test::TestDialoge> dialoge;
-    std::unique_ptr<frmDrucken> fenster;
     Spielstand spiel;
 
-    template <class T>
-    T* kind(const QString& name) {
-        T* w = fenster->findChild<T*>(name);
-        if (!w) qFatal("no child %s", qPrintable(name));
-        return w;
-    }
     void klick(const char* knopf) { QTest::mouseClick(kind<QPushButton>(knopf), Qt::LeftButton); }
     QString pfad(const QString& name) const { return ordner->filePath(name); }
     // Saves with the button `knopf` into `name` of the temporary folder and returns the bytes.
@@ -94,18 +86,14 @@ class FrmDruckenTest : public QObject {
   private slots:
     void init() {
         ordner = std::make_unique<QTemporaryDir>();
-        dialoge = std::make_unique<ui::test::TestDialoge>();
-        fenster = std::make_unique<frmDrucken>(nullptr, *dialoge);
+        erzeugeFenster();
         spiel = kalimbo::test::kleinesSpiel();
         werteAus(spiel, false);
         spiel.AktSpieltag = 1;
         spiel.Dateipfad = pfad("klein.tip").toStdString();
         fenster->zeige(spiel);
     }
-    void cleanup() {
-        fenster.reset();
-        QVERIFY2(dialoge->meldungen.isEmpty(), qPrintable(dialoge->meldungen.join(" | ")));
-    }
+    void cleanup() { schliesseFenster(); }
 
     void auswahlVonSpieltagUndArt() {
         QCOMPARE(fenster->objectName(), QStringLiteral("frmDrucken"));

@@ -5,25 +5,19 @@
 #include <QtTest>
 #include <memory>
 
+#include "fenstertest.h"
 #include "kleinesspiel.h"
-#include "testdialoge.h"
 #include "ui/bausteine/twips.h"
 
 using namespace kalimbo;
 using namespace kalimbo::ui;
 
-class FrmHaeufigkeitenTest : public QObject {
+class FrmHaeufigkeitenTest : public ui::test::FensterTest<frmHaeufigkeiten> {
     Q_OBJECT
 
-    std::unique_ptr<ui::test::TestDialoge> dialoge;
-    std::unique_ptr<frmHaeufigkeiten> fenster;
     Spielstand spiel;
 
-    QLabel* label(const QString& name) {
-        auto* l = fenster->findChild<QLabel*>(name);
-        if (!l) qFatal("no label %s", qPrintable(name));
-        return l;
-    }
+    QLabel* label(const QString& name) { return kind<QLabel>(name); }
     QLabel* label(const char* name, int i) { return label(QStringLiteral("%1_%2").arg(name).arg(i)); }
     QColor hintergrund(QLabel* l) { return l->palette().color(QPalette::Window); }
     // Width of a bar, 0 when it is hidden.
@@ -34,15 +28,11 @@ class FrmHaeufigkeitenTest : public QObject {
 
   private slots:
     void init() {
-        dialoge = std::make_unique<ui::test::TestDialoge>();
-        fenster = std::make_unique<frmHaeufigkeiten>(nullptr, *dialoge);
+        erzeugeFenster();
         spiel = kalimbo::test::kleinesSpiel();
         fenster->zeige(spiel);
     }
-    void cleanup() {
-        fenster.reset();
-        QVERIFY2(dialoge->meldungen.isEmpty(), qPrintable(dialoge->meldungen.join(" | ")));
-    }
+    void cleanup() { schliesseFenster(); }
 
     void rasterZaehltDieErgebnisseUndSchattiertSie() {
         QCOMPARE(fenster->objectName(), QStringLiteral("frmHäufigkeiten"));
@@ -87,9 +77,10 @@ class FrmHaeufigkeitenTest : public QObject {
         QTest::addColumn<QString>("titel");
         QTest::addColumn<QStringList>("anzahlen");  // real results, Anna, Carl
         QTest::addColumn<QList<int>>("balken");     // bar widths in twips
-        QTest::newRow("2:1")
-            << 21 << "Ergebnis 2:1" << QStringList{"2", "3", "0"} << QList<int>{2400, 3600, 0};
-        QTest::newRow("0:0") << 0 << "Ergebnis 0:0" << QStringList{"1", "0", "3"} << QList<int>{1200, 0, 3600};
+        QTest::newRow("2:1") << 21 << "Ergebnis 2:1" << QStringList{"2", "3", "0"}
+                             << QList<int>{2400, 3600, 0};
+        QTest::newRow("0:0") << 0 << "Ergebnis 0:0" << QStringList{"1", "0", "3"}
+                             << QList<int>{1200, 0, 3600};
         QTest::newRow("andere") << KlasseAndere << "Andere Ergebnisse" << QStringList{"1", "1", "0"}
                                 << QList<int>{3600, 3600, 0};
         QTest::newRow("9:9 nie") << 99 << "Ergebnis 9:9" << QStringList{"0", "0", "0"} << QList<int>{0, 0, 0};
@@ -109,7 +100,7 @@ class FrmHaeufigkeitenTest : public QObject {
             (QList<int>{this->balken("lblBalken"), this->balken("lblBalken_0"), this->balken("lblBalken_2")}),
             (QList<int>{px(balken[0]), px(balken[1]), px(balken[2])}));
         // The matches concerned, as the core lists them.
-        QCOMPARE(fenster->findChild<QPlainTextEdit*>("txtSpiele")->toPlainText(),
+        QCOMPARE(kind<QPlainTextEdit>("txtSpiele")->toPlainText(),
                  QString::fromStdString(spielliste(spiel, zaehleHaeufigkeiten(spiel), klasse)));
     }
 
