@@ -4,7 +4,7 @@
 
 #include "cli/aufruf.h"
 #include "cli/lauf.h"
-#include "kleinesspiel.h"
+#include "kurzesspiel.h"
 #include "reports/bogenhtml.h"
 
 namespace kalimbo::cli {
@@ -20,7 +20,7 @@ std::string ohneDatum(const std::string& html) {
 
 class CliHtml : public testing::Test {
   protected:
-    void SetUp() override { test::speichereSpiel(test::kleinesSpiel(), pfad); }
+    void SetUp() override { test::speichereSpiel(test::kurzesSpiel(), pfad); }
     // The page of matchday `spieltag` (0-based) of the game as the window shows it.
     std::string seite(int spieltag, Bogenart art) const {
         return bogenAlsHtml(erstelleBogen(geoeffnetWieImFenster(pfad), spieltag, art, "TT.MM.JJJJ"));

@@ -3,7 +3,7 @@
 #include <map>
 
 #include "cli/lauf.h"
-#include "kleinesspiel.h"
+#include "kurzesspiel.h"
 #include "reports/haeufigkeiten.h"
 
 namespace kalimbo::cli {
@@ -15,7 +15,7 @@ using test::starte;
 
 TEST(CliHaeufigkeiten, EineZeileJeErgebnisMitDenTippsDerTeilnehmer) {
     test::TempOrdner ordner;
-    Spielstand spiel = test::kleinesSpiel();
+    Spielstand spiel = test::kurzesSpiel();
     spiel.Spielername[0] = "Jürgen";
     test::speichereSpiel(spiel, ordner / "klein.tip");
     // Bernd (slot 1) does not take part and has no column.

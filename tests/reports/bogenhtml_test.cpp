@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "kleinesspiel.h"
+#include "kurzesspiel.h"
 #include "scoring/auswertung.h"
 
 namespace kalimbo {
@@ -10,7 +10,7 @@ namespace {
 
 // The whole page of the small game's second matchday, with Carl renamed to show the escaping.
 TEST(BogenHtml, EineSeiteMitInlineStilUndFarbenWieAufDemSchirm) {
-    Spielstand s = test::kleinesSpiel();
+    Spielstand s = test::kurzesSpiel();
     s.Tipp[2][1][0] = {{3, 2}};
     s.Spielername[2] = "<Carl>";
     werteAus(s, false);

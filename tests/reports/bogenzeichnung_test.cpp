@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "graph/textbreite.h"
-#include "kleinesspiel.h"
+#include "kurzesspiel.h"
 #include "scoring/auswertung.h"
 #include "scoring/regeln.h"
 
@@ -54,7 +54,7 @@ class Bogenzeichnung : public testing::Test {
     Zeichnung zeichne(Bogenart art, int spieltag = 1) {
         return zeichneBogen(erstelleBogen(s, spieltag, art, "24.12.2024"));
     }
-    Spielstand s = test::kleinesSpiel();
+    Spielstand s = test::kurzesSpiel();
 };
 
 TEST_F(Bogenzeichnung, TrefferfarbenNurInDerAuswertung) {

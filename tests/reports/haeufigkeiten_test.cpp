@@ -4,7 +4,7 @@
 
 #include <map>
 
-#include "kleinesspiel.h"
+#include "kurzesspiel.h"
 #include "state/fehler.h"
 
 namespace kalimbo {
@@ -12,7 +12,7 @@ namespace {
 
 class Haeufigkeit : public testing::Test {
   protected:
-    Spielstand s = test::kleinesSpiel();
+    Spielstand s = test::kurzesSpiel();
 };
 
 // All 101 counts of one column: the classes named in `ungleichNull`, 0 everywhere else.

@@ -4,7 +4,7 @@
 
 #include <map>
 
-#include "kleinesspiel.h"
+#include "kurzesspiel.h"
 #include "scoring/auswertung.h"
 #include "scoring/regeln.h"
 
@@ -52,7 +52,7 @@ class Bogen : public testing::Test {
         s.Tipp[2][1][0] = {{3, 2}};
         werteAus(s, false);
     }
-    Spielstand s = test::kleinesSpiel();
+    Spielstand s = test::kurzesSpiel();
 };
 
 const std::string Kopf = "Testliga 2024/25 | Spieltag 2 | ";

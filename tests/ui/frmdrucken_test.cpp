@@ -19,7 +19,8 @@
 
 #include "fenstertest.h"
 #include "graph/textbreite.h"
-#include "kleinesspiel.h"
+#include "hauptfenster.h"
+#include "kurzesspiel.h"
 #include "scoring/auswertung.h"
 #include "state/spieldatei.h"
 #include "ui/bausteine/elemente.h"
@@ -87,7 +88,7 @@ class FrmDruckenTest : public ui::test::FensterTest<frmDrucken> {
     void init() {
         ordner = std::make_unique<QTemporaryDir>();
         erzeugeFenster();
-        spiel = kalimbo::test::kleinesSpiel();
+        spiel = kalimbo::test::kurzesSpiel();
         werteAus(spiel, false);
         spiel.AktSpieltag = 1;
         spiel.Dateipfad = pfad("klein.tip").toStdString();
@@ -289,12 +290,6 @@ class FrmDruckenTest : public ui::test::FensterTest<frmDrucken> {
     }
 };
 
-int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    QApplication::setStyle(QStringLiteral("Fusion"));
-    FrmDruckenTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+KALIMBO_UI_TEST_MAIN(FrmDruckenTest)
 
 #include "frmdrucken_test.moc"

@@ -6,7 +6,8 @@
 #include <memory>
 
 #include "fenstertest.h"
-#include "kleinesspiel.h"
+#include "hauptfenster.h"
+#include "kurzesspiel.h"
 #include "ui/bausteine/twips.h"
 
 using namespace kalimbo;
@@ -29,7 +30,7 @@ class FrmHaeufigkeitenTest : public ui::test::FensterTest<frmHaeufigkeiten> {
   private slots:
     void init() {
         erzeugeFenster();
-        spiel = kalimbo::test::kleinesSpiel();
+        spiel = kalimbo::test::kurzesSpiel();
         fenster->zeige(spiel);
     }
     void cleanup() { schliesseFenster(); }
@@ -136,12 +137,6 @@ class FrmHaeufigkeitenTest : public ui::test::FensterTest<frmHaeufigkeiten> {
     }
 };
 
-int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    QApplication::setStyle(QStringLiteral("Fusion"));
-    FrmHaeufigkeitenTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+KALIMBO_UI_TEST_MAIN(FrmHaeufigkeitenTest)
 
 #include "frmhaeufigkeiten_test.moc"

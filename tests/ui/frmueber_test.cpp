@@ -4,6 +4,8 @@
 #include <QPushButton>
 #include <QtTest>
 
+#include "hauptfenster.h"
+
 using kalimbo::ui::frmUeber;
 
 class FrmUeberTest : public QObject {
@@ -31,11 +33,6 @@ class FrmUeberTest : public QObject {
     }
 };
 
-int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    FrmUeberTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+KALIMBO_UI_TEST_MAIN(FrmUeberTest)
 
 #include "frmueber_test.moc"

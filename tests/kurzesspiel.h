@@ -8,7 +8,7 @@
 
 namespace kalimbo::test {
 
-// A small game for the report and window tests: six teams (long and short names with
+// A short game for the report and window tests: six teams (long and short names with
 // umlauts), three matches a matchday, three matchdays of which 0 and 1 are selected. Anna (slot 0)
 // and Carl (slot 2) take part in their colours; Bernd (slot 1) and the empty slots 3-8 do not.
 //   results  matchday 1: A-B 2:1, C-D 0:0, E-F 10:2   matchday 2: B-A 2:1, D-C 1:1, F-E 0:3
@@ -16,7 +16,7 @@ namespace kalimbo::test {
 //   Bernd    matchday 1: 4:4 4:4 4:4                   matchday 2: 0:0 0:0 0:0
 //   Carl     matchday 1: 0:0 0:0 0:0                   matchday 2: 1:1 1:1 0:3
 // Matchday 3 (not selected) ended 2:1 everywhere and was tipped so by everybody.
-inline Spielstand kleinesSpiel() {
+inline Spielstand kurzesSpiel() {
     Spielstand s;
     s.AnzTeams = 5;
     s.AnzSpiele = 2;
