@@ -7,7 +7,6 @@
 #include "state/spielstand.h"
 
 class QComboBox;
-class QPrinter;
 class QPushButton;
 class QRadioButton;
 

@@ -123,6 +123,10 @@ struct Seitenfall {
     int schrift;  // points of the grid
 };
 
+void PrintTo(const Seitenfall& f, std::ostream* aus) {
+    *aus << f.saison << ", " << f.spieler << " Spieler";
+}
+
 class Seite : public testing::TestWithParam<Seitenfall> {};
 
 TEST_P(Seite, JedesSpielEineZeileAllesInnerhalbDerRaender) {
@@ -156,7 +160,11 @@ INSTANTIATE_TEST_SUITE_P(
     Saisons, Seite,
     testing::Values(Seitenfall{test::Saison18, 2, 5, 9, false, 10},  // narrow enough for portrait
                     Seitenfall{test::Saison20, 6, 5, 10, true, 10},  // landscape
-                    Seitenfall{test::Saison18, 9, 8, 9, true, 7}));  // long names: a smaller font
+                    Seitenfall{test::Saison18, 9, 8, 9, true, 7}),   // long names: a smaller font
+    [](const testing::TestParamInfo<Seitenfall>& i) {
+        return std::string(i.param.zeilen == 9 ? "Teams18_" : "Teams20_") + std::to_string(i.param.spieler) +
+               "Spieler";
+    });
 
 }  // namespace
 }  // namespace kalimbo
