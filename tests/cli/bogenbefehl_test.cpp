@@ -10,8 +10,8 @@
 namespace kalimbo::cli {
 namespace {
 
-using test::Lauf;
 using test::erwarteFehlendeDatei;
+using test::Lauf;
 using test::starte;
 
 std::string ohneDatum(const std::string& html) {

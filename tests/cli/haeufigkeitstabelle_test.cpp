@@ -9,8 +9,8 @@
 namespace kalimbo::cli {
 namespace {
 
-using test::Lauf;
 using test::erwarteFehlendeDatei;
+using test::Lauf;
 using test::starte;
 
 TEST(CliHaeufigkeiten, EineZeileJeErgebnisMitDenTippsDerTeilnehmer) {
