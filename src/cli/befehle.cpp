@@ -5,6 +5,8 @@
 #include <ostream>
 
 #include "aufruf.h"
+#include "bogenbefehl.h"
+#include "haeufigkeitstabelle.h"
 #include "info.h"
 #include "state/saisonimport.h"
 #include "state/spieldatei.h"
@@ -111,6 +113,13 @@ const std::vector<Befehl>& befehle() {
          "                                         führt QUELLE in ZIEL ein (Ergebnisse und Tipps von ZIEL\n"
          "                                         bleiben, wo sie nicht 0:0 sind) und speichert als AUSGABE",
          zusammenfuehren},
+        {"haeufigkeiten",
+         "haeufigkeiten SPIEL.tip                zeigt, wie oft jedes Ergebnis eintrat und getippt wurde",
+         haeufigkeiten},
+        {"html",
+         "html SPIEL.tip [--spieltag N] [--art auswertung|live|tippabgabe]\n"
+         "                                         zeigt einen Spieltag als HTML-Seite (N ab 1)",
+         html},
     };
     return alle;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -43,6 +44,15 @@ struct Text {
 };
 
 using Primitiv = std::variant<Rechteck, Linie, Text>;
+
+// The kind of face a font name stands for where that font is not installed: "MS Serif" (any name
+// with "Serif" but not "Sans") is a serif face, every other name ("MS Sans Serif") a sans-serif one.
+enum class Gattung { Serifen, Serifenlos };
+
+inline Gattung gattung(std::string_view schrift) {
+    const bool serif = schrift.find("Serif") != std::string_view::npos;
+    return serif && schrift.find("Sans") == std::string_view::npos ? Gattung::Serifen : Gattung::Serifenlos;
+}
 
 struct Zeichnung {
     int breite = 0, hoehe = 0;  // the drawing area in twips

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <sstream>
 #include <string>
 #include <vector>
@@ -19,6 +21,15 @@ inline Lauf starte(const std::vector<std::string>& argumente) {
     std::ostringstream aus, fehler;
     const int code = cli::fuehreAus(argumente, aus, fehler);
     return {code, aus.str(), fehler.str()};
+}
+
+// Runs `aufruf` with a game file that does not exist: exit code 1, nothing on the standard
+// output, the German message on the error output.
+inline void erwarteFehlendeDatei(const std::vector<std::string>& aufruf) {
+    const Lauf l = starte(aufruf);
+    EXPECT_EQ(l.code, 1);
+    EXPECT_EQ(l.aus, "");
+    EXPECT_EQ(l.fehler.rfind("Fehler: Die Datei „", 0), 0u) << l.fehler;
 }
 
 }  // namespace kalimbo::test
