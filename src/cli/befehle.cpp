@@ -5,7 +5,9 @@
 #include <ostream>
 
 #include "aufruf.h"
+#include "berichtsbefehl.h"
 #include "info.h"
+#include "infoblaetter.h"
 #include "state/saisonimport.h"
 #include "state/spieldatei.h"
 #include "tabellen.h"
@@ -111,6 +113,12 @@ const std::vector<Befehl>& befehle() {
          "                                         führt QUELLE in ZIEL ein (Ergebnisse und Tipps von ZIEL\n"
          "                                         bleiben, wo sie nicht 0:0 sind) und speichert als AUSGABE",
          zusammenfuehren},
+        {"spielerinfo",
+         "spielerinfo SPIEL.tip P [AUSGABE]      zeigt das Informationsblatt von Spieler P (0-8)",
+         spielerinfo},
+        {"teaminfo",
+         "teaminfo SPIEL.tip T [AUSGABE]         zeigt das Informationsblatt von Mannschaft T (0-19)",
+         teaminfo},
     };
     return alle;
 }
@@ -119,7 +127,7 @@ void schreibeGebrauch(std::ostream& aus) {
     aus << "Aufruf: kalimbo-cli BEFEHL ...\n";
     for (const Befehl& b : befehle())
         aus << "  " << b.gebrauch << '\n';
-    aus << AuswertungsGebrauch;
+    aus << AuswertungsGebrauch << AusgabeGebrauch;
 }
 
 }  // namespace

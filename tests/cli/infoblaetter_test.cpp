@@ -1,0 +1,89 @@
+#include "cli/infoblaetter.h"
+
+#include <gtest/gtest.h>
+
+#include "cli/lauf.h"
+#include "reports/blattspiele.h"
+#include "state/cp1252.h"
+#include "state/spieldatei.h"
+#include "testdaten.h"
+
+namespace kalimbo::cli {
+namespace {
+
+using test::Lauf;
+using test::starte;
+
+// Saves the game of the 20-team golden sheets; opened as the window opens it, it shows matchday 2,
+// the state the golden sheets were built from.
+std::string speichere(const test::TempOrdner& ordner, Spielstand s, const std::string& name = "spiel.tip") {
+    s.kopiereArbeitInDatei();
+    const std::string pfad = (ordner / name).string();
+    speichereSpieldatei(pfad, s);
+    return pfad;
+}
+
+std::string ersetze(std::string text, const std::string& alt, const std::string& neu) {
+    text.replace(text.find(alt), alt.size(), neu);
+    return text;
+}
+
+TEST(CliInfoblaetter, DruckenDasBlattWieGebaut) {
+    test::TempOrdner ordner;
+    const std::string spiel = speichere(ordner, test::blattspiel20());
+    const std::string spieler = test::testdatei("berichte/spielerinfo-20.txt");
+    const std::string team = test::testdatei("berichte/teaminfo-20.txt");
+    const std::vector<std::pair<std::vector<std::string>, std::string>> faelle{
+        {{"spielerinfo", spiel, "0"}, spieler},
+        {{"spielerinfo", spiel, "0", "--komma"},
+         ersetze(ersetze(spieler, "\t1.43\r\n", "\t1,43\r\n"), "\t14.33\r\n", "\t14,33\r\n")},
+        {{"spielerinfo", "--cp1252", spiel, "0"}, textNachCp1252(spieler)},
+        {{"teaminfo", spiel, "2"}, team},
+        {{"teaminfo", spiel, "2", "--cp1252", "--komma"}, textNachCp1252(team)},
+    };
+    for (const auto& [aufruf, erwartet] : faelle) {
+        const Lauf lauf = starte(aufruf);
+        EXPECT_EQ(lauf.code, 0) << testing::PrintToString(aufruf);
+        EXPECT_EQ(lauf.fehler, "");
+        EXPECT_EQ(lauf.aus, erwartet) << testing::PrintToString(aufruf);
+    }
+    EXPECT_NE(textNachCp1252(team).find("Torverh\xE4ltnis"), std::string::npos);  // one byte per umlaut
+}
+
+TEST(CliInfoblaetter, OhneAktuellenSpieltagNichtsUndLaufzeitfehler) {
+    test::TempOrdner ordner;
+    Spielstand ohne = test::blattspiel20();
+    ohne.AktSpieltagGlobal = KeinAktuellerSpieltag;
+    const std::string ohneTag = speichere(ordner, ohne, "ohne.tip");
+    for (const char* befehl : {"spielerinfo", "teaminfo"}) {
+        const Lauf lauf = starte({befehl, ohneTag, "1"});
+        EXPECT_EQ(lauf.code, 0);
+        EXPECT_EQ(lauf.aus, "");
+        EXPECT_EQ(lauf.fehler, "");
+    }
+
+    Spielstand leer = test::blattspiel20();
+    test::setzeAuswahl(leer, "");  // no matchday counts: the averages divide by zero
+    const Lauf lauf = starte({"spielerinfo", speichere(ordner, leer, "leer.tip"), "0"});
+    EXPECT_EQ(lauf.code, 1);
+    EXPECT_EQ(lauf.aus, "");
+    EXPECT_EQ(lauf.fehler, "Fehler: Division durch Null\n");
+}
+
+TEST(CliInfoblaetter, FalscherAufruf) {
+    const std::vector<std::vector<std::string>> aufrufe{
+        {"spielerinfo", "a.tip"},    {"spielerinfo", "a.tip", "9"},           {"teaminfo", "a.tip", "20"},
+        {"teaminfo", "a.tip", "-1"}, {"spielerinfo", "a.tip", "0", "--alle"}, {"teaminfo", "a.tip", "x"},
+    };
+    for (const auto& aufruf : aufrufe) {
+        const Lauf lauf = starte(aufruf);
+        EXPECT_EQ(lauf.code, 2) << testing::PrintToString(aufruf);
+        EXPECT_NE(lauf.fehler.find("AUSGABE:\n  --cp1252"), std::string::npos);
+    }
+    const std::string meldung = starte({"spielerinfo", "a.tip", "9"}).fehler;
+    EXPECT_EQ(meldung.substr(0, meldung.find('\n')),
+              "Der Spieler P muss eine ganze Zahl von 0 bis 8 sein, nicht „9“.");
+}
+
+}  // namespace
+}  // namespace kalimbo::cli
