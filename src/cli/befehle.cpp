@@ -8,6 +8,7 @@
 #include "berichtsbefehl.h"
 #include "info.h"
 #include "infoblaetter.h"
+#include "simulation.h"
 #include "state/saisonimport.h"
 #include "state/spieldatei.h"
 #include "tabellen.h"
@@ -79,7 +80,8 @@ Spielstand ausgewertet(const std::vector<std::string>& argumente) {
 }
 
 int tabelle(const std::vector<std::string>& argumente, std::ostream& aus) {
-    schreibeTabelle(ausgewertet(argumente), aus);
+    const Spielstand spiel = ausgewertet(argumente);
+    schreibeTabelle(spiel.Tabelle, spiel.getAnzTeams(), aus);
     return 0;
 }
 
@@ -119,6 +121,14 @@ const std::vector<Befehl>& befehle() {
         {"teaminfo",
          "teaminfo SPIEL.tip T [AUSGABE]         zeigt das Informationsblatt von Mannschaft T (0-19)",
          teaminfo},
+        {"simulation",
+         "simulation SPIEL.tip P [AUSGABE]       zeigt, wie weit die Tipps von Spieler P (0-8) die Tabelle "
+         "verfehlen",
+         simulation},
+        {"vorhersage",
+         "vorhersage SPIEL.tip P                 zeigt die Tabelle, die die Tipps von Spieler P (0-8) "
+         "ergeben",
+         vorhersage},
     };
     return alle;
 }

@@ -27,13 +27,18 @@ void gibAus(std::ostream& aus, const std::string& text, const Textausgabe& wie) 
     aus << (wie.cp1252 ? textNachCp1252(text) : text);
 }
 
+SpielUndIndex spielUndIndex(const Aufruf& a, int hoechsterIndex, const std::string& was) {
+    erwarteWerte(a, 2);
+    const int index = ganzeZahl(a.werte[1], 0, hoechsterIndex, was);
+    return {geoeffnetWieImFenster(a.werte[0]), index};
+}
+
 int berichtsbefehl(const std::vector<std::string>& argumente, std::ostream& aus, int hoechsterIndex,
                    const std::string& was, const Berichtsbau& bau) {
     const Aufruf a = zerlege(argumente, {}, textausgabeSchalter());
-    erwarteWerte(a, 2);
-    const int index = ganzeZahl(a.werte[1], 0, hoechsterIndex, was);
     const Textausgabe wie = textausgabe(a);
-    if (const auto text = bau(geoeffnetWieImFenster(a.werte[0]), index, wie.trenner)) gibAus(aus, *text, wie);
+    const auto [spiel, index] = spielUndIndex(a, hoechsterIndex, was);
+    if (const auto text = bau(spiel, index, wie.trenner)) gibAus(aus, *text, wie);
     return 0;
 }
 

@@ -28,13 +28,22 @@ Textausgabe textausgabe(const Aufruf& a);
 // its characters.
 void gibAus(std::ostream& aus, const std::string& text, const Textausgabe& wie);
 
+// The game at the first positional argument as the window shows it after opening it, and the whole
+// number N of the second in 0..hoechsterIndex, called `was` in the message when it is not.
+struct SpielUndIndex {
+    Spielstand spiel;
+    int index;
+};
+// Throws Gebrauchsfehler unless there are exactly these two positional arguments; Dateifehler or
+// Laufzeitfehler from opening the game.
+SpielUndIndex spielUndIndex(const Aufruf& a, int hoechsterIndex, const std::string& was);
+
 // Builds a report from a game (as the window shows it), an index and the decimal separator; empty
 // when there is nothing to show.
 using Berichtsbau = std::function<std::optional<std::string>(const Spielstand&, int, const std::string&)>;
 
-// Runs a report command "SPIEL.tip N [AUSGABE]": N is a whole number in 0..hoechsterIndex, called
-// `was` in the message when it is not. Prints the report exactly as built, nothing when it is empty.
-// Throws Gebrauchsfehler, Dateifehler or Laufzeitfehler.
+// Runs a report command "SPIEL.tip N [AUSGABE]" (see spielUndIndex). Prints the report exactly as built,
+// nothing when it is empty. Throws Gebrauchsfehler, Dateifehler or Laufzeitfehler.
 int berichtsbefehl(const std::vector<std::string>& argumente, std::ostream& aus, int hoechsterIndex,
                    const std::string& was, const Berichtsbau& bau);
 
