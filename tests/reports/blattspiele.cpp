@@ -1,5 +1,8 @@
 #include "blattspiele.h"
 
+#include <array>
+#include <string>
+
 #include "scoring/auswertung.h"
 #include "scoring/regeln.h"
 #include "testdaten.h"
@@ -8,12 +11,26 @@ namespace kalimbo::test {
 
 namespace {
 
-void tippeImmer(Spielstand& s, int spieler, const char* tipp) {
-    std::string tage;
-    for (int spiel = 0; spiel <= s.AnzSpiele; ++spiel)
-        tage += std::string(tipp) + " ";
-    for (int tag = 0; tag < 3; ++tag)
-        setzeTipps(s, spieler, tag, tage);
+// Results and Anna's tips of matchdays 0-2; Bernd, Carl and Dora tip the same score everywhere.
+struct Spieltage {
+    int teams;
+    std::array<const char*, 3> ergebnisse, anna;
+    std::array<const char*, 3> immer;
+};
+
+Spielstand getippt(const Spieltage& d) {
+    Spielstand s = kleinesSpiel(d.teams);
+    for (int tag = 0; tag < 3; ++tag) {
+        setzeErgebnisse(s, tag, d.ergebnisse[static_cast<std::size_t>(tag)]);
+        setzeTipps(s, 0, tag, d.anna[static_cast<std::size_t>(tag)]);
+        for (int p = 1; p <= 3; ++p) {
+            std::string tipps;
+            for (int spiel = 0; spiel <= s.AnzSpiele; ++spiel)
+                tipps += std::string(d.immer[static_cast<std::size_t>(p - 1)]) + " ";
+            setzeTipps(s, p, tag, tipps);
+        }
+    }
+    return s;
 }
 
 void werteWieImFensterAus(Spielstand& s) {
@@ -24,16 +41,13 @@ void werteWieImFensterAus(Spielstand& s) {
 }  // namespace
 
 Spielstand blattspiel20() {
-    Spielstand s = kleinesSpiel(20);
-    setzeErgebnisse(s, 0, "2:1 0:0 1:3 4:0 1:1 2:2 0:1 3:2 1:0 0:0");
-    setzeErgebnisse(s, 1, "1:0 2:2 0:3 1:1 2:0 0:0 3:3 1:2 2:1 0:1");
-    setzeErgebnisse(s, 2, "0:2 1:0 2:1 0:0 3:0 1:1 2:3 0:0 4:2 1:0");
-    setzeTipps(s, 0, 0, "2:1 1:1 0:2 2:0 0:0 1:0 0:1 1:2 3:1 0:0");
-    setzeTipps(s, 0, 1, "1:0 1:1 1:3 0:0 3:1 1:1 1:1 0:1 1:0 1:1");
-    setzeTipps(s, 0, 2, "1:2 2:0 2:1 1:1 2:0 0:1 1:2 0:0 3:1 0:2");
-    tippeImmer(s, 1, "1:0");
-    tippeImmer(s, 2, "0:0");
-    tippeImmer(s, 3, "2:1");
+    Spielstand s =
+        getippt({20,
+                 {"2:1 0:0 1:3 4:0 1:1 2:2 0:1 3:2 1:0 0:0", "1:0 2:2 0:3 1:1 2:0 0:0 3:3 1:2 2:1 0:1",
+                  "0:2 1:0 2:1 0:0 3:0 1:1 2:3 0:0 4:2 1:0"},
+                 {"2:1 1:1 0:2 2:0 0:0 1:0 0:1 1:2 3:1 0:0", "1:0 1:1 1:3 0:0 3:1 1:1 1:1 0:1 1:0 1:1",
+                  "1:2 2:0 2:1 1:1 2:0 0:1 1:2 0:0 3:1 0:2"},
+                 {"1:0", "0:0", "2:1"}});
     setzeAuswahl(s, "0-2");
     s.AktSpieltagGlobal = 2;
     s.AktSpieltag = 2;
@@ -42,16 +56,12 @@ Spielstand blattspiel20() {
 }
 
 Spielstand blattspiel18() {
-    Spielstand s = kleinesSpiel(18);
-    setzeErgebnisse(s, 0, "1:0 2:2 0:1 3:1 0:0 1:2 2:0 1:1 0:3");
-    setzeErgebnisse(s, 1, "2:1 0:0 1:1 0:2 3:0 2:2 1:0 0:1 4:1");
-    setzeErgebnisse(s, 2, "0:0 1:0 2:3 1:1 0:2 2:1 3:3 0:1 1:0");
-    setzeTipps(s, 0, 0, "1:0 1:1 1:2 2:0 0:0 0:1 1:0 2:1 1:2");
-    setzeTipps(s, 0, 1, "2:1 0:0 1:1 0:2 3:0 2:2 1:0 0:1 4:1");
-    setzeTipps(s, 0, 2, "1:1 2:1 1:2 0:0 0:1 1:0 0:0 1:1 1:0");
-    tippeImmer(s, 1, "1:0");
-    tippeImmer(s, 2, "0:0");
-    tippeImmer(s, 3, "0:1");
+    Spielstand s = getippt({18,
+                            {"1:0 2:2 0:1 3:1 0:0 1:2 2:0 1:1 0:3", "2:1 0:0 1:1 0:2 3:0 2:2 1:0 0:1 4:1",
+                             "0:0 1:0 2:3 1:1 0:2 2:1 3:3 0:1 1:0"},
+                            {"1:0 1:1 1:2 2:0 0:0 0:1 1:0 2:1 1:2", "2:1 0:0 1:1 0:2 3:0 2:2 1:0 0:1 4:1",
+                             "1:1 2:1 1:2 0:0 0:1 1:0 0:0 1:1 1:0"},
+                            {"1:0", "0:0", "0:1"}});
     s.Teilnehmer[3] = 0;
     waehleRegel(s, 1);
     setzeAuswahl(s, "0, 2");
