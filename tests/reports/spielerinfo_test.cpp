@@ -19,53 +19,21 @@ std::string abschnitt(const std::string& text, const std::string& anfang) {
     return text.substr(start + 2, ende == std::string::npos ? std::string::npos : ende + 2 - (start + 2));
 }
 
-struct Golden {
-    const char* name;
-    std::function<Spielstand()> spiel;
-    const char* trenner;
-    const char* datei;
-};
-
-void PrintTo(const Golden& g, std::ostream* aus) {
-    *aus << g.name;
-}
-
-class SpielerInfoGolden : public testing::TestWithParam<Golden> {};
-
-TEST_P(SpielerInfoGolden, ZeichenFuerZeichen) {
-    const auto text = SpielerInfoText(GetParam().spiel(), 0, GetParam().trenner);
-    ASSERT_TRUE(text);
-    EXPECT_EQ(*text, test::testdatei(std::string("berichte/") + GetParam().datei));
-}
-
-// 20 teams: every hit kind, shown matchday = current matchday. 18 teams: 9 matches a matchday,
+// 20 teams: every hit kind, the shown matchday is the current one. 18 teams: 9 matches a matchday,
 // 18 team lines, a matchday with results left out of the selection, the shown matchday before the
 // current one, the 3-point rule ("jeweils 1 Punkte]") and the decimal comma.
-INSTANTIATE_TEST_SUITE_P(Spiele, SpielerInfoGolden,
-                         testing::Values(Golden{"Zwanzig", test::blattspiel20, ".", "spielerinfo-20.txt"},
-                                         Golden{"Achtzehn", test::blattspiel18, ",", "spielerinfo-18.txt"}),
-                         [](const auto& info) { return std::string(info.param.name); });
+TEST(SpielerInfo, GoldeneBlaetter) {
+    EXPECT_EQ(SpielerInfoText(test::blattspiel20(), 0, "."), test::testdatei("berichte/spielerinfo-20.txt"));
+    EXPECT_EQ(SpielerInfoText(test::blattspiel18(), 0, ","), test::testdatei("berichte/spielerinfo-18.txt"));
+}
 
 TEST(SpielerInfo, NichtteilnehmerBekommtEinGanzesBlatt) {
     const std::string text = *SpielerInfoText(test::blattspiel18(), 3, ".");
-    // On the shown matchday the matchday view marked his points -1; the lists have no hits, the
-    // block of all matches still shows his stored tips.
+    // On the shown matchday the matchday view marked his points -1; his tips scored nothing.
     EXPECT_EQ(abschnitt(text, "  Gesamtpunkte"),
               test::crlf("  Gesamtpunkte: →0 [4]\n  1.Spieltag: →→-1  [4]\n"));
     EXPECT_EQ(abschnitt(text, "  Die richtigen Tipps"),
               test::crlf("  Die richtigen Tipps [0x]\n  [jeweils 3 Punkte]\n  -\n"));
-    EXPECT_EQ(abschnitt(text, "  Spieltag 3"), test::crlf(R"(
-  Spieltag 3
-  SÜC - CAL0:0 (0:1)
-  DÖR - BÄR1:0 (0:1)
-  ELS - AHR2:3 (0:1)
-  FÜR - RÜT1:1 (0:1)
-  GMÜ - PLÖ0:2 (0:1)
-  HEI - OES2:1 (0:1)
-  ILM - NÖR3:3 (0:1)
-  JÜB - MÖH0:1 (0:1)
-  KÖL - LÜB1:0 (0:1)
-)"));
 }
 
 TEST(SpielerInfo, SpielerOhneTipps) {
@@ -75,34 +43,11 @@ TEST(SpielerInfo, SpielerOhneTipps) {
     s.AktSpieltagGlobal = 0;
     werteAus(s, false);
     const std::string text = *SpielerInfoText(s, 1, ".");
-    EXPECT_EQ(text.substr(text.find("  Die richtigen Tipps")), test::crlf(R"(
-  Die richtigen Tipps [0x]
-  [jeweils 3 Punkte]
-  -
-
-  Spiele mit richtiger Sieghöhe [0x]
-  [jeweils 2 Punkte]
-  -
-
-  Spiele mit richtiger Tendenz [0x]
-  [jeweils 1 Punkt(e)]
-  -
-
-
-  Alle 81 Spiele
-  -
-
-  Spieltag 1
-  SÜC - AHR1:0 (0:0)
-  BÄR - RÜT2:1 (0:0)
-  CAL - PLÖ0:1 (0:0)
-  DÖR - OES3:1 (0:0)
-  ELS - NÖR0:2 (0:0)
-  FÜR - MÖH1:2 (0:0)
-  GMÜ - LÜB2:0 (0:0)
-  HEI - KÖL2:1 (0:0)
-  ILM - JÜB0:3 (0:0)
-)"));
+    for (const char* liste : {"  Die richtigen Tipps [0x]\n  [jeweils 3 Punkte]\n  -\n",
+                              "  Spiele mit richtiger Sieghöhe [0x]\n  [jeweils 2 Punkte]\n  -\n",
+                              "  Spiele mit richtiger Tendenz [0x]\n  [jeweils 1 Punkt(e)]\n  -\n"})
+        EXPECT_EQ(abschnitt(text, std::string(liste).substr(0, std::string(liste).find('['))),
+                  test::crlf(liste));
 }
 
 TEST(SpielerInfo, ListenEndenAmAktuellenSpieltagNichtAmGezeigten) {
@@ -111,31 +56,10 @@ TEST(SpielerInfo, ListenEndenAmAktuellenSpieltagNichtAmGezeigten) {
     const std::string text = *SpielerInfoText(s, 0, ".");
     EXPECT_EQ(abschnitt(text, "  Gesamtpunkte"),
               test::crlf("  Gesamtpunkte: →43 [1]\n  3.Spieltag: →→14  [1]\n"));
-    EXPECT_EQ(text.substr(text.find("  Die richtigen Tipps")), test::crlf(R"(
-  Die richtigen Tipps [6x]
-  [jeweils 3 Punkte]
-  -
-  VÖH - AHR2:1
-  GMÜ - NÖR0:1
-  JÜB - KÖL0:0
-
-  Spiele mit richtiger Sieghöhe [6x]
-  [jeweils 2 Punkte]
-  -
-  CAL - SÜC1:3 (0:2)
-
-  Spiele mit richtiger Tendenz [13x]
-  [jeweils 1 Punkt(e)]
-  -
-  BÄR - TÖN0:0 (1:1)
-  DÖR - RÜT4:0 (2:0)
-  ELS - PLÖ1:1 (0:0)
-  ILM - LÜB1:0 (3:1)
-
-
-  Alle 300 Spiele
-  -
-
+    EXPECT_EQ(abschnitt(text, "  Die richtigen Tipps"),
+              test::crlf("  Die richtigen Tipps [6x]\n  [jeweils 3 Punkte]\n  -\n  VÖH - AHR2:1\n  GMÜ - "
+                         "NÖR0:1\n  JÜB - KÖL0:0\n"));
+    EXPECT_EQ(text.substr(text.rfind("  Spieltag ")), test::crlf(R"(
   Spieltag 1
   VÖH - AHR2:1 (2:1)
   BÄR - TÖN0:0 (1:1)

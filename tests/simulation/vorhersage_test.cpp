@@ -38,17 +38,6 @@ TEST_P(VorhersageEchteSaison, TippsGleichErgebnissenErgebenDieEchteTabelle) {
 
 INSTANTIATE_TEST_SUITE_P(Daten, VorhersageEchteSaison, testing::Values(test::Saison18, test::Saison20));
 
-TEST(Vorhersage, OhneAusgewaehltenSpieltagTeamreihenfolge) {
-    Spielstand s = test::kleinesSpiel(20);
-    test::setzeTipps(s, 0, 0, "5:0 5:0 5:0 5:0 5:0 5:0 5:0 5:0 5:0 5:0");
-    const Tabellenzeilen v = vorhergesagteTabelle(s, 0);
-    for (int t = 0; t < MaxTeams; ++t) {
-        EXPECT_EQ(v[t].Punkte, 0);
-        EXPECT_EQ(v[t].Tore, 0);
-        EXPECT_EQ(v[t].Tabellenplatz, t);
-    }
-}
-
 // Matchday 0 of the 18-team game pairs 17-0, 1-16, 2-15, ... 8-9. Anna tips every home team to win
 // 1:0; in reality every away team won 0:2.
 TEST(Vorhersage, PlaetzeMitDenTatsaechlichenPunkten) {
@@ -81,7 +70,6 @@ TEST(Vorhersage, LaufzeitfehlerBeiUeberlaufUndFalschemIndex) {
     const std::vector<std::tuple<const char*, Spielstand*, int, Laufzeitfehler::Code>> faelle{
         {"Tore über 32767", &ueberlauf, 0, Laufzeitfehler::Ueberlauf},
         {"Mannschaft 20", &fremdesTeam, 0, Laufzeitfehler::Index},
-        {"Spieler 9", &fremdesTeam, 9, Laufzeitfehler::Index},
     };
     for (const auto& [name, spiel, spieler, code] : faelle) {
         try {

@@ -70,14 +70,16 @@ TEST(CliInfoblaetter, OhneAktuellenSpieltagNichtsUndLaufzeitfehler) {
     EXPECT_EQ(lauf.fehler, "Fehler: Division durch Null\n");
 }
 
-TEST(CliInfoblaetter, FalscherAufruf) {
+TEST(CliBerichte, FalscherAufruf) {
     const std::vector<std::vector<std::string>> aufrufe{
-        {"spielerinfo", "a.tip"},    {"spielerinfo", "a.tip", "9"},           {"teaminfo", "a.tip", "20"},
-        {"teaminfo", "a.tip", "-1"}, {"spielerinfo", "a.tip", "0", "--alle"}, {"teaminfo", "a.tip", "x"},
+        {"spielerinfo", "a.tip"},     {"spielerinfo", "a.tip", "9"},           {"teaminfo", "a.tip", "20"},
+        {"teaminfo", "a.tip", "-1"},  {"spielerinfo", "a.tip", "0", "--alle"}, {"teaminfo", "a.tip", "x"},
+        {"simulation", "a.tip", "9"}, {"vorhersage", "a.tip", "0", "--komma"}, {"vorhersage", "a.tip"},
     };
     for (const auto& aufruf : aufrufe) {
         const Lauf lauf = starte(aufruf);
         EXPECT_EQ(lauf.code, 2) << testing::PrintToString(aufruf);
+        EXPECT_EQ(lauf.aus, "");
         EXPECT_NE(lauf.fehler.find("AUSGABE:\n  --cp1252"), std::string::npos);
     }
     const std::string meldung = starte({"spielerinfo", "a.tip", "9"}).fehler;
