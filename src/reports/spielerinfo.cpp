@@ -99,10 +99,6 @@ i16 AnzGewerteteSpiele(const Spielstand& s) {
     return mal16(AnzGewerteteSpieltage(s), plus16(s.getAnzSpiele(), 1));
 }
 
-std::string spielerInfoTitel(const Spielstand& s, int spieler) {
-    return "Spielerinformationen: " + s.getSpielerName(spieler);
-}
-
 std::optional<std::string> SpielerInfoText(const Spielstand& s, int spieler, std::string_view trenner) {
     if (s.getAktSpieltagGlobal() == KeinAktuellerSpieltag) return std::nullopt;
     const SpielerAuswertung& r = s.Auswertung[spieler];

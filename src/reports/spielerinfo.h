@@ -15,9 +15,6 @@ i16 AnzGewerteteSpieltage(const Spielstand& s);
 // or left out on Sunday. Throws Laufzeitfehler::Ueberlauf or ::Index.
 i16 AnzGewerteteSpiele(const Spielstand& s);
 
-// The caption of the information frame over a player's sheet: "Spielerinformationen: " + name.
-std::string spielerInfoTitel(const Spielstand& s, int spieler);
-
 // The information sheet of player slot `spieler` (0..8, taking part or not) from the game and its
 // evaluation records: totals and places (head line for the shown matchday AktSpieltag), points by
 // hit kind, the averages per match and per matchday in the form "0.0#" with the decimal separator

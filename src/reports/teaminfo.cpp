@@ -62,10 +62,6 @@ std::vector<i16> teamsAufTabellenplatz(const Spielstand& s, int zeile) {
     return teams;
 }
 
-std::string teamInfoTitel(const Spielstand& s, int team) {
-    return "Mannschaftsinformationen: " + s.getTeamName(team);
-}
-
 std::optional<std::string> TeamInfoText(const Spielstand& s, int team) {
     if (s.getAktSpieltagGlobal() == KeinAktuellerSpieltag) return std::nullopt;
     const Tabellenzeile& r = s.Tabelle[team];

@@ -14,9 +14,6 @@ namespace kalimbo {
 // lies beyond the table.
 std::vector<i16> teamsAufTabellenplatz(const Spielstand& s, int zeile);
 
-// The caption of the information frame over a team's sheet: "Mannschaftsinformationen: " + name.
-std::string teamInfoTitel(const Spielstand& s, int team);
-
 // The information sheet of team `team` (0..19): its long name, then points, goals, wins, draws and
 // losses overall, at home and away from its league-table row, then six flat lists of its matches
 // (home, away, won, drawn, lost, all) on the counted matchdays up to AktSpieltagGlobal with the
