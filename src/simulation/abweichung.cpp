@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numeric>
 
 #include "reports/blatt.h"
 #include "state/zahlformat.h"
@@ -32,6 +31,8 @@ struct Gruppe {
     }
 };
 
+// After two empty lines: the variance, its square root (taken in double precision) and the average
+// deviation, each in the form "0.00".
 void kennzahlen(Blatt& b, double varianz, double durchschnitt, std::string_view trenner) {
     const auto f = [&](double wert) { return formatiereZahl(wert, 2, 2, trenner); };
     b.zeile()
@@ -41,10 +42,13 @@ void kennzahlen(Blatt& b, double varianz, double durchschnitt, std::string_view 
         .zeile(" Durchschnittsabweichung: \t", f(durchschnitt));
 }
 
-// The teams of one group in team order ("   " + padded absolute deviation + name), then the
-// group's figures, computed in single precision, when it has any team.
-Gruppe gruppe(Blatt& b, const Spielstand& s, const Abweichungen& a, const char* ueberschrift, bool ueber) {
-    b.zeile().zeile().zeile(ueberschrift).zeile(" -");
+// Writes the heading of the over- or under-rated teams and those teams in team order ("   " + padded
+// absolute deviation + " " + name); returns their count and sums.
+Gruppe gruppe(Blatt& b, const Spielstand& s, const Abweichungen& a, bool ueber) {
+    b.zeile()
+        .zeile()
+        .zeile(ueber ? " Überschätzte Mannschaften [unsortiert]" : " Unterschätzte Mannschaften [unsortiert]")
+        .zeile(" -");
     Gruppe g;
     for (int t = 0; t <= s.getAnzTeams(); ++t) {
         const i16 d = a.PunkteDiff[t];
@@ -92,11 +96,9 @@ std::string abweichungsbericht(const Spielstand& s, int spieler, const Tabellenz
     for (int t = 0; t <= s.getAnzTeams(); ++t)
         if (a.PunkteDiff[t] == 0) b.zeile("   ", s.getTeamName(t));
     for (const bool ueber : {true, false}) {
-        const Gruppe g = gruppe(
-            b, s, a,
-            ueber ? " Überschätzte Mannschaften [unsortiert]" : " Unterschätzte Mannschaften [unsortiert]",
-            ueber);
+        const Gruppe g = gruppe(b, s, a, ueber);
         if (g.anzahl > 0) {
+            // The group's quotients stay in single precision.
             const float varianz = g.quadrate / g.anzahl;
             const float durchschnitt = g.summe / g.anzahl;
             kennzahlen(b, varianz, durchschnitt, trenner);
