@@ -1,6 +1,6 @@
-#include "cli/infoblaetter.h"
-
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 #include "cli/lauf.h"
 #include "reports/blattspiele.h"
@@ -14,8 +14,8 @@ namespace {
 using test::Lauf;
 using test::starte;
 
-// Saves the game of the 20-team golden sheets; opened as the window opens it, it shows matchday 2,
-// the state the golden sheets were built from.
+// Saves a game; the game of the 20-team golden texts, opened as the window opens it, shows matchday
+// 2, the state the golden texts were built from.
 std::string speichere(const test::TempOrdner& ordner, Spielstand s, const std::string& name = "spiel.tip") {
     s.kopiereArbeitInDatei();
     const std::string pfad = (ordner / name).string();
@@ -28,11 +28,14 @@ std::string ersetze(std::string text, const std::string& alt, const std::string&
     return text;
 }
 
-TEST(CliInfoblaetter, DruckenDasBlattWieGebaut) {
+TEST(CliBerichte, DruckenDenTextWieGebaut) {
     test::TempOrdner ordner;
     const std::string spiel = speichere(ordner, test::blattspiel20());
     const std::string spieler = test::testdatei("berichte/spielerinfo-20.txt");
     const std::string team = test::testdatei("berichte/teaminfo-20.txt");
+    const std::string bericht = test::testdatei("berichte/simulation-20.txt");
+    std::string komma = bericht;  // the only points in the report are the decimal points
+    std::replace(komma.begin(), komma.end(), '.', ',');
     const std::vector<std::pair<std::vector<std::string>, std::string>> faelle{
         {{"spielerinfo", spiel, "0"}, spieler},
         {{"spielerinfo", spiel, "0", "--komma"},
@@ -40,6 +43,9 @@ TEST(CliInfoblaetter, DruckenDasBlattWieGebaut) {
         {{"spielerinfo", "--cp1252", spiel, "0"}, textNachCp1252(spieler)},
         {{"teaminfo", spiel, "2"}, team},
         {{"teaminfo", spiel, "2", "--cp1252", "--komma"}, textNachCp1252(team)},
+        {{"simulation", spiel, "0"}, bericht},
+        {{"simulation", spiel, "0", "--komma"}, komma},
+        {{"simulation", spiel, "0", "--cp1252"}, textNachCp1252(bericht)},
     };
     for (const auto& [aufruf, erwartet] : faelle) {
         const Lauf lauf = starte(aufruf);
@@ -50,7 +56,7 @@ TEST(CliInfoblaetter, DruckenDasBlattWieGebaut) {
     EXPECT_NE(textNachCp1252(team).find("Torverh\xE4ltnis"), std::string::npos);  // one byte per umlaut
 }
 
-TEST(CliInfoblaetter, OhneAktuellenSpieltagNichtsUndLaufzeitfehler) {
+TEST(CliBerichte, OhneAktuellenSpieltagNichtsUndLaufzeitfehler) {
     test::TempOrdner ordner;
     Spielstand ohne = test::blattspiel20();
     ohne.AktSpieltagGlobal = KeinAktuellerSpieltag;
@@ -68,6 +74,19 @@ TEST(CliInfoblaetter, OhneAktuellenSpieltagNichtsUndLaufzeitfehler) {
     EXPECT_EQ(lauf.code, 1);
     EXPECT_EQ(lauf.aus, "");
     EXPECT_EQ(lauf.fehler, "Fehler: Division durch Null\n");
+}
+
+TEST(CliBerichte, VorhersageImFormatDerTabelle) {
+    test::TempOrdner ordner;
+    Spielstand s = test::blattspiel20();
+    s.Tipp[1] = s.Ergebnis;  // Bernd's tips are the results: his table is the real one
+    const std::string spiel = speichere(ordner, s);
+    const Lauf vorhersage = starte({"vorhersage", spiel, "1"});
+    EXPECT_EQ(vorhersage.code, 0);
+    EXPECT_EQ(vorhersage.aus, starte({"tabelle", spiel}).aus);
+    // Anna's own table: VfB Fürth-Süd wins twice and draws once in her tips.
+    const std::string anna = starte({"vorhersage", spiel, "0"}).aus;
+    EXPECT_EQ(anna.substr(0, anna.find('\n') + 1), "1\tVfB Fürth-Süd\t7\t5:2\t3\t2\t1\t0\n");
 }
 
 TEST(CliBerichte, FalscherAufruf) {
