@@ -64,16 +64,19 @@ TEST(Vorhersage, LaufzeitfehlerBeiUeberlaufUndFalschemIndex) {
     test::setzeAuswahl(ueberlauf, "0, 17");  // team 0 plays both matchdays
     test::setzeTipps(ueberlauf, 0, 0, "0:20000");
     test::setzeTipps(ueberlauf, 0, 17, "20000:0");
-    Spielstand fremdesTeam = test::kleinesSpiel(18);
-    test::setzeAuswahl(fremdesTeam, "0");
-    fremdesTeam.Paarung[0][3][1] = 20;
-    const std::vector<std::tuple<const char*, Spielstand*, int, Laufzeitfehler::Code>> faelle{
-        {"Tore über 32767", &ueberlauf, 0, Laufzeitfehler::Ueberlauf},
-        {"Mannschaft 20", &fremdesTeam, 0, Laufzeitfehler::Index},
+    Spielstand heim20 = test::kleinesSpiel(18), gast20 = heim20;
+    heim20.Paarung[0][3][0] = 20;
+    gast20.Paarung[0][4][1] = 20;
+    test::setzeAuswahl(heim20, "0");
+    test::setzeAuswahl(gast20, "0");
+    const std::vector<std::tuple<const char*, Spielstand*, Laufzeitfehler::Code>> faelle{
+        {"Tore über 32767", &ueberlauf, Laufzeitfehler::Ueberlauf},
+        {"Heimmannschaft 20", &heim20, Laufzeitfehler::Index},
+        {"Gastmannschaft 20", &gast20, Laufzeitfehler::Index},
     };
-    for (const auto& [name, spiel, spieler, code] : faelle) {
+    for (const auto& [name, spiel, code] : faelle) {
         try {
-            vorhergesagteTabelle(*spiel, spieler);
+            vorhergesagteTabelle(*spiel, 0);
             ADD_FAILURE() << name;
         } catch (const Laufzeitfehler& e) {
             EXPECT_EQ(e.code(), code) << name;
