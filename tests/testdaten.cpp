@@ -1,5 +1,6 @@
 #include "testdaten.h"
 
+#include <array>
 #include <fstream>
 #include <iterator>
 #include <random>
@@ -14,6 +15,12 @@ namespace fs = std::filesystem;
 
 fs::path gemeinsameDaten(const std::string& datei) {
     return fs::path(KALIMBO_SHARED_DATA) / datei;
+}
+
+std::string testdatei(const std::string& name) {
+    const fs::path pfad = fs::path(KALIMBO_TEST_DATA) / name;
+    if (!fs::exists(pfad)) throw std::runtime_error("missing " + pfad.string());
+    return leseBytes(pfad);
 }
 
 Dateiinhalt saison(const std::string& name) {
@@ -89,6 +96,60 @@ void setzeAuswahl(Spielstand& s, std::string_view auswahl) {
             s.SptgAuswerten[tag] = 1;
         if (ein.peek() == ',') ein.ignore();
     }
+}
+
+Spielstand kleinesSpiel(int teams) {
+    static const std::array<std::pair<const char*, const char*>, MaxTeams> Namen{{
+        {"FC Ahrensfelde", "AHR"}, {"Borussia Bärstadt", "BÄR"}, {"SV Calmbach", "CAL"},
+        {"TuS Dörpen", "DÖR"},     {"Eintracht Elsdorf", "ELS"}, {"VfB Fürth-Süd", "FÜR"},
+        {"SC Gmünd", "GMÜ"},       {"Hansa Heide", "HEI"},       {"Union Ilmenau", "ILM"},
+        {"Jahn Jübek", "JÜB"},     {"Kickers Kölln", "KÖL"},     {"Lok Lübars", "LÜB"},
+        {"MSV Möhnesee", "MÖH"},   {"Concordia Nörten", "NÖR"},  {"Olympia Oese", "OES"},
+        {"Preußen Plön", "PLÖ"},   {"Rot-Weiß Rüthen", "RÜT"},   {"Sportfreunde Süchteln", "SÜC"},
+        {"TSV Tönning", "TÖN"},    {"Viktoria Vöhl", "VÖH"},
+    }};
+    Spielstand s;
+    s.AnzTeams = static_cast<i16>(teams - 1);
+    s.AnzSpiele = static_cast<i16>(teams / 2 - 1);
+    s.AnzSpieltage = static_cast<i16>(2 * (teams - 1) - 1);
+    s.AnzTippfelder = static_cast<i16>(MaxSpieler * (s.AnzSpiele + 1) - 1);
+    for (int t = 0; t < teams; ++t) {
+        s.Teamname[t] = Namen[static_cast<std::size_t>(t)].first;
+        s.TeamnameKurz[t] = Namen[static_cast<std::size_t>(t)].second;
+    }
+    // Circle method: team teams-1 stays, the others turn one place per round.
+    const int kreis = teams - 1;
+    for (int tag = 0; tag <= s.AnzSpieltage; ++tag) {
+        const int runde = tag % kreis;
+        for (int spiel = 0; spiel <= s.AnzSpiele; ++spiel) {
+            int heim = spiel == 0 ? kreis : (runde + spiel) % kreis;
+            int gast = spiel == 0 ? runde : (runde - spiel + kreis) % kreis;
+            if (tag >= kreis) std::swap(heim, gast);
+            s.Paarung[tag][spiel] = {{static_cast<i16>(heim), static_cast<i16>(gast)}};
+        }
+    }
+    const std::array<const char*, 4> spieler{"Anna", "Bernd", "Carl", "Dora"};
+    for (int p = 0; p < MaxSpieler; ++p) {
+        s.Spielername[p] = p < 4 ? spieler[static_cast<std::size_t>(p)] : "";
+        s.Teilnehmer[p] = p < 4 ? 1 : 0;
+    }
+    return s;
+}
+
+std::string crlf(std::string_view text) {
+    if (!text.empty() && text.front() == '\n') text.remove_prefix(1);
+    std::string ergebnis;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text.substr(i, 3) == "→") {
+            ergebnis += '\t';
+            i += 2;
+        } else if (text[i] == '\n') {
+            ergebnis += "\r\n";
+        } else {
+            ergebnis += text[i];
+        }
+    }
+    return ergebnis;
 }
 
 std::string leseBytes(const fs::path& pfad) {

@@ -7,7 +7,10 @@
 #include "aufruf.h"
 #include "bogenbefehl.h"
 #include "haeufigkeitstabelle.h"
+#include "berichtsbefehl.h"
 #include "info.h"
+#include "infoblaetter.h"
+#include "simulation.h"
 #include "state/saisonimport.h"
 #include "state/spieldatei.h"
 #include "tabellen.h"
@@ -79,7 +82,8 @@ Spielstand ausgewertet(const std::vector<std::string>& argumente) {
 }
 
 int tabelle(const std::vector<std::string>& argumente, std::ostream& aus) {
-    schreibeTabelle(ausgewertet(argumente), aus);
+    const Spielstand spiel = ausgewertet(argumente);
+    schreibeTabelle(spiel.Tabelle, spiel.getAnzTeams(), aus);
     return 0;
 }
 
@@ -120,6 +124,20 @@ const std::vector<Befehl>& befehle() {
          "html SPIEL.tip [--spieltag N] [--art auswertung|live|tippabgabe]\n"
          "                                         zeigt einen Spieltag als HTML-Seite (N ab 1)",
          html},
+        {"spielerinfo",
+         "spielerinfo SPIEL.tip P [AUSGABE]      zeigt das Informationsblatt von Spieler P (0-8)",
+         spielerinfo},
+        {"teaminfo",
+         "teaminfo SPIEL.tip T [AUSGABE]         zeigt das Informationsblatt von Mannschaft T (0-19)",
+         teaminfo},
+        {"simulation",
+         "simulation SPIEL.tip P [AUSGABE]       zeigt, wie weit die Tipps von Spieler P (0-8) die Tabelle "
+         "verfehlen",
+         simulation},
+        {"vorhersage",
+         "vorhersage SPIEL.tip P                 zeigt die Tabelle, die die Tipps von Spieler P (0-8) "
+         "ergeben",
+         vorhersage},
     };
     return alle;
 }
@@ -128,7 +146,7 @@ void schreibeGebrauch(std::ostream& aus) {
     aus << "Aufruf: kalimbo-cli BEFEHL ...\n";
     for (const Befehl& b : befehle())
         aus << "  " << b.gebrauch << '\n';
-    aus << AuswertungsGebrauch;
+    aus << AuswertungsGebrauch << AusgabeGebrauch;
 }
 
 }  // namespace

@@ -16,13 +16,11 @@ void werteWieGeoeffnetAus(Spielstand& spiel, const Auswertungsoptionen& optionen
     markiereNichtteilnehmer(spiel);
 }
 
-void schreibeTabelle(const Spielstand& spiel, std::ostream& aus) {
-    for (int platz = 0; platz <= spiel.AnzTeams; ++platz) {
-        const int team = spiel.DiesTeam(platz);
-        const Tabellenzeile& z = spiel.Tabelle[team];
-        aus << platz + 1 << '\t' << z.Name << '\t' << z.Punkte << '\t'
-            << std::get<std::string>(spiel.getTabInfo(team, 3)) << '\t'
-            << std::get<i16>(spiel.getTabInfo(team, 4)) << '\t' << z.Siege << '\t' << z.Unentschieden << '\t'
+void schreibeTabelle(const Tabellenzeilen& tabelle, i16 anzTeams, std::ostream& aus) {
+    for (int platz = 0; platz <= anzTeams; ++platz) {
+        const Tabellenzeile& z = tabelle[teamAufPlatz(tabelle, anzTeams, platz)];
+        aus << platz + 1 << '\t' << z.Name << '\t' << z.Punkte << '\t' << z.Tore << ':' << z.Gegentore << '\t'
+            << minus16(z.Tore, z.Gegentore) << '\t' << z.Siege << '\t' << z.Unentschieden << '\t'
             << z.Niederlagen << '\n';
     }
 }

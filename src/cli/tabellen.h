@@ -3,7 +3,7 @@
 #include <iosfwd>
 #include <optional>
 
-#include "state/spielstand.h"
+#include "scoring/tabelle.h"
 
 namespace kalimbo::cli {
 
@@ -19,9 +19,10 @@ struct Auswertungsoptionen {
 // non-participants' points of the shown matchday as the matchday view does.
 void werteWieGeoeffnetAus(Spielstand& spiel, const Auswertungsoptionen& optionen);
 
-// The league table, one line per position, best first:
-// position (1-based), name, points, goals:against, difference, wins, draws, losses; TAB-separated.
-void schreibeTabelle(const Spielstand& spiel, std::ostream& aus);
+// A league table (rows 0..anzTeams, anzTeams the highest team index), one line per position, best
+// first: position (1-based), name, points, goals:against, difference, wins, draws, losses;
+// TAB-separated.
+void schreibeTabelle(const Tabellenzeilen& tabelle, i16 anzTeams, std::ostream& aus);
 
 // The nine player slots in overall order: place (1-based), name, total points; TAB-separated.
 void schreibeSpieler(const Spielstand& spiel, std::ostream& aus);

@@ -83,7 +83,7 @@ void zaehleTabelle(Spielstand& s, const Saisonplan& plan) {
     sortiereTabelle(s.Tabelle, s.AnzTeams);
 }
 
-void sortiereTabelle(Feld<Tabellenzeile, MaxTeams + 1>& tabelle, i16 anzTeams) {
+void sortiereTabelle(Tabellenzeilen& tabelle, i16 anzTeams) {
     const int anzahl = static_cast<int>(pruefeIndex(anzTeams, MaxTeams + 1)) + 1;
     // Points, goal difference, goals and finally the current position folded into one number that
     // orders like the keys in turn: every part below the points fits in its bits, so it never
@@ -108,6 +108,13 @@ void sortiereTabelle(Feld<Tabellenzeile, MaxTeams + 1>& tabelle, i16 anzTeams) {
     }
     for (int t = 0; t < anzahl; ++t)
         tabelle[t].Tabellenplatz = neu[t];
+}
+
+i16 teamAufPlatz(const Tabellenzeilen& tabelle, i16 anzTeams, int platz) {
+    i16 team = 0;
+    for (int t = 0; t <= anzTeams; ++t)
+        if (tabelle[t].Tabellenplatz == platz) team = static_cast<i16>(t);
+    return team;
 }
 
 }  // namespace kalimbo

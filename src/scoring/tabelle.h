@@ -5,6 +5,9 @@
 
 namespace kalimbo {
 
+// The rows of a league table, indexed by team; row 20 is a spare that belongs to no team.
+using Tabellenzeilen = Feld<Tabellenzeile, MaxTeams + 1>;
+
 // Clears the league table: every row 0..20 gets its team's name (row 20 has none), its team index
 // as Tabellenplatz and 0 in every figure.
 void setzeTabelleZurueck(Spielstand& s);
@@ -22,6 +25,11 @@ void zaehleTabelle(Spielstand& s, const Saisonplan& plan);
 // then goal difference, then goals scored, best first; teams equal in all three keep their
 // current order. The rows' positions must be 0..anzTeams, each once (as the reset leaves them);
 // otherwise, or for anzTeams outside 0..20, throws Laufzeitfehler::Index and changes nothing.
-void sortiereTabelle(Feld<Tabellenzeile, MaxTeams + 1>& tabelle, i16 anzTeams);
+void sortiereTabelle(Tabellenzeilen& tabelle, i16 anzTeams);
+
+// The team at the 0-based position `platz` of the rows 0..anzTeams (anzTeams is the highest team
+// index): the last row whose Tabellenplatz equals it; 0 if none. Throws Laufzeitfehler::Index for
+// anzTeams beyond the rows.
+i16 teamAufPlatz(const Tabellenzeilen& tabelle, i16 anzTeams, int platz);
 
 }  // namespace kalimbo

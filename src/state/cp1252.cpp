@@ -1,5 +1,6 @@
 #include "cp1252.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <optional>
@@ -33,6 +34,24 @@ std::string zeichenBeschreibung(char32_t c, std::string_view roh) {
     return "„" + std::string(roh) + "“ (" + code + ")";
 }
 
+// Encodes UTF-8 text. At the first bytes that are not UTF-8 or the first character the code page
+// lacks, throws Dateifehler(meldung(byte position, description of the character or nothing)).
+template <class Meldung>
+std::string kodiere(std::string_view text, Meldung meldung) {
+    std::string bytes;
+    bytes.reserve(text.size());
+    std::size_t pos = 0;
+    while (pos < text.size()) {
+        const std::size_t start = pos;
+        const auto c = naechstesZeichen(text, pos);
+        if (!c) throw Dateifehler(meldung(start, std::nullopt));
+        const auto b = zeichenNachCp1252(*c);
+        if (!b) throw Dateifehler(meldung(start, zeichenBeschreibung(*c, text.substr(start, pos - start))));
+        bytes += static_cast<char>(*b);
+    }
+    return bytes;
+}
+
 }  // namespace
 
 std::string vonCp1252(std::string_view bytes) {
@@ -46,25 +65,25 @@ std::string vonCp1252(std::string_view bytes) {
 }
 
 std::string nachCp1252(std::string_view text) {
-    std::string bytes;
-    bytes.reserve(text.size());
-    std::size_t pos = 0;
-    while (pos < text.size()) {
-        const std::size_t start = pos;
-        const auto c = naechstesZeichen(text, pos);
-        if (!c) {
-            throw Dateifehler("Der Text „" + std::string(text) +
-                              "“ ist kein gültiger UTF-8-Text und kann nicht gespeichert werden.");
-        }
-        const auto b = zeichenNachCp1252(*c);
-        if (!b) {
-            throw Dateifehler("Der Text „" + std::string(text) + "“ enthält das Zeichen " +
-                              zeichenBeschreibung(*c, text.substr(start, pos - start)) +
-                              ", das eine Tippspiel-Datei nicht speichern kann. Bitte ersetzen Sie es.");
-        }
-        bytes += static_cast<char>(*b);
-    }
-    return bytes;
+    return kodiere(text, [&](std::size_t, const std::optional<std::string>& zeichen) {
+        if (!zeichen)
+            return "Der Text „" + std::string(text) +
+                   "“ ist kein gültiger UTF-8-Text und kann nicht gespeichert werden.";
+        return "Der Text „" + std::string(text) + "“ enthält das Zeichen " + *zeichen +
+               ", das eine Tippspiel-Datei nicht speichern kann. Bitte ersetzen Sie es.";
+    });
+}
+
+std::string textNachCp1252(std::string_view text) {
+    return kodiere(text, [&](std::size_t pos, const std::optional<std::string>& zeichen) {
+        const auto zeile = std::to_string(
+            std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(pos), '\n') + 1);
+        if (!zeichen)
+            return "Der Text ist in Zeile " + zeile +
+                   " kein gültiger UTF-8-Text und kann nicht gespeichert werden.";
+        return "Der Text enthält in Zeile " + zeile + " das Zeichen " + *zeichen +
+               ", das eine Textdatei in Windows-1252 nicht speichern kann. Bitte ersetzen Sie es.";
+    });
 }
 
 }  // namespace kalimbo

@@ -16,4 +16,8 @@ std::string vonCp1252(std::string_view bytes);
 // Windows-1252 cannot represent (or bytes that are not UTF-8). Nothing is replaced silently.
 std::string nachCp1252(std::string_view text);
 
+// Encodes a longer UTF-8 text (a sheet for a text file); throws Dateifehler naming the first
+// character Windows-1252 cannot represent and the line (1-based) it stands on.
+std::string textNachCp1252(std::string_view text);
+
 }  // namespace kalimbo

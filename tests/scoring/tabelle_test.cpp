@@ -49,6 +49,16 @@ INSTANTIATE_TEST_SUITE_P(
         Gleichstand{"NegativeDifferenz", {{{0, 0, 3}, {0, 2, 3}, {0, 0, 1}, {0, 1, 4}}}, {1, 2, 3, 0}}),
     [](const auto& info) { return std::string(info.param.name); });
 
+TEST(Tabelle, TeamAufPlatzNimmtDieLetzteZeile) {
+    Tabellenzeilen tabelle;
+    for (const auto& [team, platz] : {std::pair{0, 2}, {1, 1}, {2, 1}, {3, 0}, {4, 1}})
+        tabelle[team].Tabellenplatz = static_cast<i16>(platz);
+    // Row 4 lies beyond the highest team index 3; position 3 is nobody's.
+    EXPECT_EQ(
+        (std::array{teamAufPlatz(tabelle, 3, 0), teamAufPlatz(tabelle, 3, 1), teamAufPlatz(tabelle, 3, 3)}),
+        (std::array<i16, 3>{3, 2, 0}));
+}
+
 TEST(Tabelle, PositionenMuessenEindeutigSein) {
     Spielstand s;
     s.AnzTeams = 3;
