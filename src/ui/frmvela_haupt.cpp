@@ -2,7 +2,6 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QFileInfo>
 #include <QMenuBar>
 #include <QScreen>
 #include <QScrollArea>
@@ -10,15 +9,16 @@
 #include "scoring/auswertung.h"
 #include "scoring/regeln.h"
 #include "state/eintraege.h"
-#include "state/spieldatei.h"
-#include "state/tippimport.h"
-#include "state/trainerdatei.h"
 #include "ui/bausteine/dialoge.h"
 #include "ui/bausteine/elemente.h"
 #include "ui/bausteine/fehlergrenze.h"
+#include "ui/bausteine/ligatabelle.h"
 #include "ui/bausteine/twips.h"
+#include "ui/frmdrucken.h"
+#include "ui/frmhaeufigkeiten.h"
 #include "ui/frmregel.h"
 #include "ui/frmspieler.h"
+#include "ui/frmueber.h"
 #include "ui/haupt/bedienfeld.h"
 #include "ui/haupt/blitztabelle.h"
 #include "ui/haupt/dokument.h"
@@ -30,13 +30,7 @@
 
 namespace kalimbo::ui {
 
-namespace {
-
-std::filesystem::path pfadVon(const QString& pfad) {
-    return QFile::encodeName(pfad).toStdString();
-}
-
-}  // namespace
+namespace {}  // namespace
 
 frmVela_Haupt::frmVela_Haupt(Dialoge& dialoge, const QString& startdatei, QWidget* eltern)
     : QMainWindow(eltern), m_dialoge(dialoge) {
@@ -46,21 +40,13 @@ frmVela_Haupt::frmVela_Haupt(Dialoge& dialoge, const QString& startdatei, QWidge
     setFont(schrift);
     m_menue = baueHauptmenue(menuBar());
     baueFenster();
-    m_dokument = new Dokument(this, m_spiel, [this] {
-        Spielstand kopie = m_spiel;
-        uebernimmEintraege(kopie, m_ansicht->eintraege());
-        kopie.kopiereArbeitInDatei();
-        return static_cast<Dateiinhalt>(kopie);
-    });
+    m_dokument = new Dokument(this, m_dialoge, m_spiel, m_menue, [this] { return m_ansicht->eintraege(); });
     verbindePanels();
     verbindeMenue();
-    m_zuletzt.laden();
-    zeigeZuletzt(m_menue, m_zuletzt);
     m_bedienfeld->zeige(m_spiel);
     // A game recovered or named on the command line ends by showing its last selected matchday, so
     // matchday 0 of the empty game need not be drawn first.
-    const bool wiederhergestellt = m_dokument->stelleWiederHer(m_dialoge);
-    if (wiederhergestellt) fangeFehler(this, m_dialoge, [this] { zeigeGeladenesSpiel(); });
+    const bool wiederhergestellt = m_dokument->stelleWiederHer();
     if (!wiederhergestellt && !startdatei.isEmpty()) oeffne(startdatei);
     fangeFehler(this, m_dialoge, [&] {
         if (!wiederhergestellt && m_spiel.Dateipfad.empty()) lblSpieltagWahl_Click(0);
@@ -105,10 +91,13 @@ void frmVela_Haupt::verbinde(QAction* aktion, std::function<void()> handler) {
 }
 
 void frmVela_Haupt::verbindePanels() {
+    connect(m_dokument, &Dokument::spielGeladen, this, sicher([this] { zeigeGeladenesSpiel(); }));
     connect(m_wahl, &Spieltagswahl::spieltagGeklickt, this, sicherMit(&frmVela_Haupt::lblSpieltagWahl_Click));
     connect(m_wahl, &Spieltagswahl::auswahlGeklickt, this, sicherMit(&frmVela_Haupt::lblAuswahl_Click));
     connect(m_ansicht, &Spieltagsansicht::teamGeklickt, this, sicherMit(&frmVela_Haupt::lblTeam_Click));
     connect(m_ansicht, &Spieltagsansicht::spielerGeklickt, this, sicherMit(&frmVela_Haupt::lblSpieler_Click));
+    connect(m_blitztabelle->tabelle(), &Ligatabelle::nameGeklickt, this,
+            sicherMit(&frmVela_Haupt::lblTabName_Click));
     connect(m_ansicht, &Spieltagsansicht::bearbeitet, this, &frmVela_Haupt::geaendert);
     connect(m_ansicht, &Spieltagsansicht::ueberlauf, this,
             [this] { m_dialoge.meldung(this, fehlermeldung(Laufzeitfehler(Laufzeitfehler::Ueberlauf))); });
@@ -118,12 +107,12 @@ void frmVela_Haupt::verbindePanels() {
 
 void frmVela_Haupt::verbindeMenue() {
     const Hauptmenue& m = m_menue;
-    verbinde(m.menOeffnen, [this] { menOeffnen_Click(); });
-    verbinde(m.menSpeichern, [this] { menSpeichern_Click(); });
-    verbinde(m.menTippdatei, [this] { menTippdatei_Click(); });
-    verbinde(m.menImpTrainer, [this] { menImpTrainer_Click(); });
+    verbinde(m.menOeffnen, [this] { m_dokument->menOeffnen_Click(); });
+    verbinde(m.menSpeichern, [this] { m_dokument->menSpeichern_Click(); });
+    verbinde(m.menTippdatei, [this] { m_dokument->menTippdatei_Click(); });
+    verbinde(m.menImpTrainer, [this] { m_dokument->menImpTrainer_Click(); });
     for (int i = 0; i < 3; ++i)
-        verbinde(m.menRecent[static_cast<std::size_t>(i)], [this, i] { menRecent_Click(i); });
+        verbinde(m.menRecent[static_cast<std::size_t>(i)], [this, i] { m_dokument->menRecent_Click(i); });
     connect(m.menBeenden, &QAction::triggered, this, [this] {
         close();
         QCoreApplication::quit();
@@ -149,6 +138,10 @@ void frmVela_Haupt::verbindeMenue() {
     verbinde(m.menRegEigene, [this] { menRegEigene_Click(); });
     verbinde(m.menSpielerAe, [this] { menSpielerAe_Click(); });
     verbinde(m.menAuswerten, [this] { auswerten(QStringLiteral("---")); });
+    verbinde(m.menBericht, [this] { m_infobox->exportiere(m_dialoge, m_spiel.getFussnote()); });
+    verbinde(m.menHaeufigkeiten, [this] { zeigeFenster(m_frmHaeufigkeiten); });
+    verbinde(m.menDrucken, [this] { zeigeFenster(m_frmDrucken); });
+    verbinde(m.menUeber, [this] { menUeber_Click(); });
     connect(m.menNormal, &QAction::triggered, this, [this] { m_menue.menNormal->setChecked(true); });
     // Strg+Bild auf/ab show the matchday before or after the one shown.
     for (const auto& [taste, schritt] : {std::pair{Qt::Key_PageUp, -1}, std::pair{Qt::Key_PageDown, 1}}) {
@@ -176,65 +169,8 @@ void frmVela_Haupt::closeEvent(QCloseEvent* ereignis) {
     QMainWindow::closeEvent(ereignis);
 }
 
-// ---------------------------------------------------------------------------------------------
-// Files
-
-void frmVela_Haupt::menOeffnen_Click() {
-    if (const QString pfad = waehleSpieldatei(m_dialoge, this); !pfad.isEmpty()) oeffne(pfad);
-}
-
-void frmVela_Haupt::oeffne(const QString& angabe) {
-    fangeFehler(this, m_dialoge, [&] {
-        const QString pfad = QFileInfo(angabe).absoluteFilePath();
-        m_spiel.oeffne(ladeSpieldatei(pfadVon(pfad)));
-        nachDemOeffnen(pfad, QFileInfo(pfad).fileName(), true);
-    });
-}
-
-// A recent file is opened without becoming the file a later save proposes.
-void frmVela_Haupt::menRecent_Click(int eintrag) {
-    const ZuletztListe::Eintrag datei = m_zuletzt.eintraege[static_cast<std::size_t>(eintrag)];
-    m_spiel.oeffne(ladeSpieldatei(pfadVon(datei.pfad)));
-    nachDemOeffnen(datei.pfad, datei.titel, false);
-}
-
-// Results and tips of another game file fill those of this game that are still 0:0; every other
-// field becomes the other file's, which is then the file a save proposes.
-void frmVela_Haupt::menTippdatei_Click() {
-    const QString pfad = waehleSpieldatei(m_dialoge, this);
-    if (pfad.isEmpty()) return;
-    const Dateiinhalt andere = ladeSpieldatei(pfadVon(pfad));
-    TakeEntries();
-    fuegeTippdateiEin(m_spiel, andere);
-    nachDemOeffnen(pfad, QFileInfo(pfad).fileName(), true);
-    geaendert();
-}
-
-// The coach periods of any file; the file does not become the game's file.
-void frmVela_Haupt::menImpTrainer_Click() {
-    const QString pfad = waehleSpieldatei(m_dialoge, this);
-    if (pfad.isEmpty()) return;
-    m_spiel.Trainerwechsel = ladeTrainerdatei(pfadVon(pfad));
-    zeigeTrainermenue(m_menue, m_spiel);
-    geaendert();
-}
-
-void frmVela_Haupt::nachDemOeffnen(const QString& pfad, const QString& titel, bool alsSpeicherziel) {
-    m_dokument->geladen(pfad, alsSpeicherziel);
-    m_zuletzt.hinzufuegen(pfad, titel);
-    zeigeZuletzt(m_menue, m_zuletzt);
-    zeigeGeladenesSpiel();
-}
-
-void frmVela_Haupt::menSpeichern_Click() {
-    TakeEntries();
-    m_spiel.kopiereArbeitInDatei();
-    const QString pfad = waehleSpeicherort(m_dialoge, this, text(m_spiel.Dateipfad));
-    if (pfad.isEmpty()) return;
-    speichereSpieldatei(pfadVon(pfad), m_spiel);
-    m_dokument->gespeichert(pfad);
-    m_zuletzt.hinzufuegen(pfad, QFileInfo(pfad).fileName());
-    zeigeZuletzt(m_menue, m_zuletzt);
+void frmVela_Haupt::oeffne(const QString& pfad) {
+    fangeFehler(this, m_dialoge, [&] { m_dokument->oeffne(pfad); });
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -313,8 +249,22 @@ void frmVela_Haupt::lblTeam_Click(int spiel, int seite) {
 }
 
 void frmVela_Haupt::lblSpieler_Click(int spieler) {
-    m_infobox->setTitle(QStringLiteral("Spielerinformationen: ") + text(m_spiel.getSpielerName(spieler)));
-    m_ausgewaehlterSpieler = spieler;
+    m_infobox->zeigeSpieler(m_spiel, spieler);
+}
+
+void frmVela_Haupt::lblTabName_Click(int zeile) {
+    m_infobox->zeigeTeam(m_spiel, zeile);
+}
+
+template <class Fenster>
+void frmVela_Haupt::zeigeFenster(Fenster*& fenster) {
+    if (!fenster) fenster = new Fenster(this, m_dialoge);
+    fenster->zeige(m_spiel);
+}
+
+void frmVela_Haupt::menUeber_Click() {
+    if (!m_frmUeber) m_frmUeber = new frmUeber(this);
+    m_frmUeber->open();
 }
 
 void frmVela_Haupt::cmdSonntag_Click() {

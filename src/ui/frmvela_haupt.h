@@ -6,7 +6,6 @@
 #include "scoring/auswahl.h"
 #include "state/spielstand.h"
 #include "ui/haupt/hauptmenue.h"
-#include "ui/haupt/zuletztliste.h"
 
 namespace kalimbo::ui {
 
@@ -14,8 +13,11 @@ class Bedienfeld;
 class Blitztabelle;
 class Dialoge;
 class Dokument;
+class frmDrucken;
+class frmHaeufigkeiten;
 class frmRegel;
 class frmSpieler;
+class frmUeber;
 class Infobox;
 class Spieltagsansicht;
 class Spieltagswahl;
@@ -50,9 +52,7 @@ class frmVela_Haupt : public QMainWindow {
   private:
     Dialoge& m_dialoge;
     Spielstand m_spiel;
-    ZuletztListe m_zuletzt;
     Hauptmenue m_menue{};
-    int m_ausgewaehlterSpieler = 0;
     Dokument* m_dokument;
 
     Spieltagswahl* m_wahl;
@@ -64,6 +64,9 @@ class frmVela_Haupt : public QMainWindow {
     // The other windows, created on first use and kept.
     frmSpieler* m_frmSpieler = nullptr;
     frmRegel* m_frmRegel = nullptr;
+    frmHaeufigkeiten* m_frmHaeufigkeiten = nullptr;
+    frmDrucken* m_frmDrucken = nullptr;
+    frmUeber* m_frmUeber = nullptr;
 
     void baueFenster();
     void verbindePanels();
@@ -73,15 +76,6 @@ class frmVela_Haupt : public QMainWindow {
     std::function<void()> sicher(std::function<void()> handler);
     template <class... Argumente>
     auto sicherMit(void (frmVela_Haupt::*handler)(Argumente...));
-
-    // Files.
-    void menOeffnen_Click();
-    void menSpeichern_Click();
-    void menRecent_Click(int eintrag);
-    void menTippdatei_Click();
-    void menImpTrainer_Click();
-    // After a game was read into the state: the file noted, the recent list, the game shown.
-    void nachDemOeffnen(const QString& pfad, const QString& titel, bool alsSpeicherziel);
 
     // The game on screen.
     void zeigeGeladenesSpiel();
@@ -95,6 +89,11 @@ class frmVela_Haupt : public QMainWindow {
     void auswerten(const QString& anlass);
     void lblTeam_Click(int spiel, int seite);
     void lblSpieler_Click(int spieler);
+    void lblTabName_Click(int zeile);
+    void menUeber_Click();
+    // Shows a window that only reads the game, created on first use and kept.
+    template <class Fenster>
+    void zeigeFenster(Fenster*& fenster);
     void cmdSonntag_Click();
     void menReg_Click(i16 modus);
     void menRegEigene_Click();

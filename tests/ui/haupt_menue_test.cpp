@@ -201,6 +201,30 @@ class HauptMenueTest : public QObject {
         QVERIFY(h.aktion("menDieserTrainer_0")->isVisible() && !h.aktion("menDieserTrainer_0")->isEnabled());
     }
 
+    // Each window is made on first use and kept: opened again, it is the same window.
+    void fensterAusDemMenue_data() {
+        QTest::addColumn<QString>("eintrag");
+        QTest::addColumn<QString>("fenster");
+        QTest::newRow("Spielerdaten") << QStringLiteral("menSpielerAe") << "frmSpieler";
+        QTest::newRow("eigene Regel") << "menRegEigene" << "frmRegel";
+        QTest::newRow("Häufigkeiten") << QStringLiteral("menHäufigkeiten") << QStringLiteral("frmHäufigkeiten");
+        QTest::newRow("Drucken") << "menDrucken" << "frmDrucken";
+        QTest::newRow("Über") << QStringLiteral("menÜber") << QStringLiteral("frmÜber");
+    }
+    void fensterAusDemMenue() {
+        QFETCH(QString, eintrag);
+        QFETCH(QString, fenster);
+        Hauptfenster h;
+        h.oeffneSpiel();
+        h.aktion(eintrag)->trigger();
+        QWidget* erstes = h.kind(fenster);
+        QVERIFY(erstes->isVisible());
+        erstes->close();
+        h.aktion(eintrag)->trigger();
+        QCOMPARE(h.fenster->findChildren<QWidget*>(fenster).size(), 1);
+        QVERIFY(h.kind(fenster)->isVisible());
+    }
+
     void uebernehmenWertetNichtAus() {
         Hauptfenster h;
         h.oeffneSpiel();

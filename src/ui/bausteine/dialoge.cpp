@@ -19,6 +19,7 @@ QString qtFilter(const QString& filter) {
 namespace {
 
 const QString Spieldateifilter = QStringLiteral("Tippspiel-Dateien (*.tip)|*.tip|Alle Dateien|*.*");
+const QString SpeichernTitel = QStringLiteral("Geben Sie den Namen der Datei zum Speichern ein!");
 
 QString absolut(const QString& pfad) {
     return pfad.isEmpty() ? pfad : QFileInfo(pfad).absoluteFilePath();
@@ -32,9 +33,12 @@ QString waehleSpieldatei(Dialoge& dialoge, QWidget* eltern) {
 }
 
 QString waehleSpeicherort(Dialoge& dialoge, QWidget* eltern, const QString& vorschlag) {
-    return absolut(dialoge.speichern(eltern,
-                                     QStringLiteral("Geben Sie den Namen der Datei zum Speichern ein!"),
-                                     Spieldateifilter, vorschlag));
+    return absolut(dialoge.speichern(eltern, SpeichernTitel, Spieldateifilter, vorschlag));
+}
+
+QString waehleBerichtsdatei(Dialoge& dialoge, QWidget* eltern) {
+    return absolut(dialoge.speichern(
+        eltern, SpeichernTitel, QStringLiteral("Textdateien (*.txt)|*.txt|Alle Dateien|*.*"), QString()));
 }
 
 QString QtDialoge::oeffnen(QWidget* eltern, const QString& titel, const QString& filter) {

@@ -38,6 +38,9 @@ QString waehleSpieldatei(Dialoge& dialoge, QWidget* eltern);
 // Where to save the game, `vorschlag` proposed, as an absolute path; empty when cancelled.
 QString waehleSpeicherort(Dialoge& dialoge, QWidget* eltern, const QString& vorschlag);
 
+// Where to save the shown sheet as a text file; empty when cancelled.
+QString waehleBerichtsdatei(Dialoge& dialoge, QWidget* eltern);
+
 // "Tippspiel-Dateien (*.tip)|*.tip|Alle Dateien|*.*" as Qt writes it:
 // "Tippspiel-Dateien (*.tip);;Alle Dateien (*)".
 QString qtFilter(const QString& filter);

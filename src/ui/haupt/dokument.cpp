@@ -4,16 +4,88 @@
 #include <QLocale>
 #include <QWidget>
 
+#include "state/spieldatei.h"
+#include "state/tippimport.h"
+#include "state/trainerdatei.h"
 #include "ui/bausteine/dialoge.h"
 
 namespace kalimbo::ui {
 
-Dokument::Dokument(QWidget* fenster, Spielstand& spiel, std::function<Dateiinhalt()> zuSichern)
-    : QObject(fenster), m_fenster(fenster), m_spiel(spiel), m_zuSichern(std::move(zuSichern)) {
+namespace {
+
+std::filesystem::path pfadVon(const QString& pfad) {
+    return QFile::encodeName(pfad).toStdString();
+}
+
+}  // namespace
+
+Dokument::Dokument(QWidget* fenster, Dialoge& dialoge, Spielstand& spiel, const Hauptmenue& menue,
+                   std::function<Spieltagseintraege()> eintraege)
+    : QObject(fenster),
+      m_fenster(fenster),
+      m_dialoge(dialoge),
+      m_spiel(spiel),
+      m_menue(menue),
+      m_eintraege(std::move(eintraege)) {
     m_fenster->setWindowTitle(QStringLiteral("Kalimbo[*]"));
     m_sicherung.setSingleShot(true);
     m_sicherung.setInterval(300);
     connect(&m_sicherung, &QTimer::timeout, this, &Dokument::sichereKopie);
+    m_zuletzt.laden();
+    zeigeZuletzt(m_menue, m_zuletzt);
+}
+
+void Dokument::oeffne(const QString& angabe) {
+    const QString pfad = QFileInfo(angabe).absoluteFilePath();
+    m_spiel.oeffne(ladeSpieldatei(pfadVon(pfad)));
+    nachDemLesen(pfad, QFileInfo(pfad).fileName(), true);
+}
+
+void Dokument::menOeffnen_Click() {
+    if (const QString pfad = waehleSpieldatei(m_dialoge, m_fenster); !pfad.isEmpty()) oeffne(pfad);
+}
+
+void Dokument::menRecent_Click(int eintrag) {
+    const ZuletztListe::Eintrag datei = m_zuletzt.eintraege[static_cast<std::size_t>(eintrag)];
+    m_spiel.oeffne(ladeSpieldatei(pfadVon(datei.pfad)));
+    nachDemLesen(datei.pfad, datei.titel, false);
+}
+
+void Dokument::menTippdatei_Click() {
+    const QString pfad = waehleSpieldatei(m_dialoge, m_fenster);
+    if (pfad.isEmpty()) return;
+    const Dateiinhalt andere = ladeSpieldatei(pfadVon(pfad));
+    uebernimmEintraege(m_spiel, m_eintraege());
+    fuegeTippdateiEin(m_spiel, andere);
+    nachDemLesen(pfad, QFileInfo(pfad).fileName(), true);
+    geaendert();
+}
+
+void Dokument::menImpTrainer_Click() {
+    const QString pfad = waehleSpieldatei(m_dialoge, m_fenster);
+    if (pfad.isEmpty()) return;
+    m_spiel.Trainerwechsel = ladeTrainerdatei(pfadVon(pfad));
+    zeigeTrainermenue(m_menue, m_spiel);
+    geaendert();
+}
+
+void Dokument::menSpeichern_Click() {
+    uebernimmEintraege(m_spiel, m_eintraege());
+    m_spiel.kopiereArbeitInDatei();
+    const QString pfad = waehleSpeicherort(m_dialoge, m_fenster, QString::fromStdString(m_spiel.Dateipfad));
+    if (pfad.isEmpty()) return;
+    speichereSpieldatei(pfadVon(pfad), m_spiel);
+    setzeDatei(pfad, true);
+    m_fenster->setWindowModified(false);
+    m_wiederherstellung.verwerfe();
+    merke(pfad, QFileInfo(pfad).fileName());
+}
+
+void Dokument::nachDemLesen(const QString& pfad, const QString& titel, bool alsSpeicherziel) {
+    setzeDatei(pfad, alsSpeicherziel);
+    m_fenster->setWindowModified(false);
+    merke(pfad, titel);
+    emit spielGeladen();
 }
 
 void Dokument::setzeDatei(const QString& pfad, bool alsSpeicherziel) {
@@ -26,14 +98,9 @@ void Dokument::setzeDatei(const QString& pfad, bool alsSpeicherziel) {
                                               : titel + QStringLiteral("[*] - Kalimbo"));
 }
 
-void Dokument::geladen(const QString& pfad, bool alsSpeicherziel) {
-    setzeDatei(pfad, alsSpeicherziel);
-    m_fenster->setWindowModified(false);
-}
-
-void Dokument::gespeichert(const QString& pfad) {
-    geladen(pfad, true);
-    m_wiederherstellung.verwerfe();
+void Dokument::merke(const QString& pfad, const QString& titel) {
+    m_zuletzt.hinzufuegen(pfad, titel);
+    zeigeZuletzt(m_menue, m_zuletzt);
 }
 
 void Dokument::geaendert() {
@@ -53,23 +120,27 @@ void Dokument::schliesst() {
 void Dokument::sichereKopie() {
     if (!m_fenster->isWindowModified()) return;
     try {
-        m_wiederherstellung.sichere(m_zuSichern(), QString::fromStdString(m_spiel.Dateipfad),
+        Spielstand kopie = m_spiel;
+        uebernimmEintraege(kopie, m_eintraege());
+        kopie.kopiereArbeitInDatei();
+        m_wiederherstellung.sichere(kopie, QString::fromStdString(m_spiel.Dateipfad),
                                     QString::fromStdString(m_spiel.Dateititel));
     } catch (const std::exception&) {
     }
 }
 
-bool Dokument::stelleWiederHer(Dialoge& dialoge) {
+bool Dokument::stelleWiederHer() {
     const auto kopie = m_wiederherstellung.vorhandene();
     if (!kopie) return false;
     const QString zeit = QLocale().toString(kopie->zeit, QLocale::ShortFormat);
-    if (!dialoge.frage(m_fenster,
-                       QStringLiteral("Ungespeicherte Änderungen vom %1 wiederherstellen?").arg(zeit))) {
+    if (!m_dialoge.frage(m_fenster,
+                         QStringLiteral("Ungespeicherte Änderungen vom %1 wiederherstellen?").arg(zeit))) {
         m_wiederherstellung.verwerfe();
         return false;
     }
     m_spiel.oeffne(kopie->inhalt);
     setzeDatei(kopie->pfad, true);
+    emit spielGeladen();
     geaendert();
     return true;
 }

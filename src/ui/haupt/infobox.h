@@ -1,11 +1,16 @@
 #pragma once
 
 #include <QGroupBox>
+#include <optional>
 #include <string>
+
+#include "state/spielstand.h"
 
 class QPlainTextEdit;
 
 namespace kalimbo::ui {
+
+class Dialoge;
 
 // The information box under the tables: the sheet of a player or a team. It keeps the sheet's
 // exact text (line ends included) for the text export.
@@ -14,13 +19,24 @@ class Infobox : public QGroupBox {
   public:
     explicit Infobox(QWidget* eltern);
 
-    // Replaces the shown text; `text` is the sheet as the core built it (UTF-8, CR LF).
-    void setzeText(const std::string& text);
+    // The sheet of player slot `spieler`, numbers with the user's decimal separator; the caption
+    // names him. While the game has no current matchday the text stays as it was; a core error
+    // (a division by zero) is thrown with the caption changed and the text as it was.
+    void zeigeSpieler(const Spielstand& spiel, int spieler);
+    // The sheet of the team on row `zeile` of the league table, likewise.
+    void zeigeTeam(const Spielstand& spiel, int zeile);
+    // The text shown, exactly as the core built it (UTF-8, CR LF).
     const std::string& text() const { return m_text; }
+    // Saves the text shown as a text file chosen in a dialog, with the footer and the date and time
+    // in the user's short forms. Cancelling writes nothing; a write error is a Dateifehler and an
+    // existing file stays as it was.
+    void exportiere(Dialoge& dialoge, const std::string& fussnote);
     // Frame and text heights in twips.
     void setzeHoehen(int rahmen, int textfeld);
 
   private:
+    void setzeText(const std::optional<std::string>& text);
+
     QPlainTextEdit* txtTeamInfo;
     std::string m_text;
 };

@@ -1,0 +1,111 @@
+// The information box of the main window: a player's or a team's sheet on a click, exactly as the
+// core builds it, and its export as a text file.
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+#include "hauptfenster.h"
+#include "reports/spielerinfo.h"
+#include "reports/teaminfo.h"
+
+using namespace kalimbo;
+using namespace kalimbo::ui;
+using namespace kalimbo::ui::test;
+
+class HauptInfoboxTest : public QObject {
+    Q_OBJECT
+
+    static QString titel(const Hauptfenster& h) { return h.kind<QGroupBox>("fraTeamInfo")->title(); }
+    static QString kasten(const Hauptfenster& h) {
+        return h.kind<QPlainTextEdit>("txtTeamInfo")->toPlainText();
+    }
+    static QString alsText(const std::optional<std::string>& blatt) {
+        return QString::fromStdString(blatt.value()).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    }
+    static QByteArray inhalt(const QString& pfad) {
+        QFile f(pfad);
+        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<fehlt>");
+    }
+
+  private slots:
+    void spielerblattBeimStartUndAufKlick() {
+        Hauptfenster h;
+        h.oeffneSpiel();
+        h.neuStarten();  // nothing open: no current matchday, no sheet, only the caption
+        QCOMPARE(titel(h), QStringLiteral("Spielerinformationen: "));
+        QCOMPARE(kasten(h), QString());
+        h.fenster = std::make_unique<frmVela_Haupt>(h.dialoge, h.ordner.filePath("spiel.tip"));
+        QCOMPARE(titel(h), QStringLiteral("Spielerinformationen: Anna"));  // player 0 at start
+        QCOMPARE(kasten(h), alsText(SpielerInfoText(h.spiel(), Anna, ".")));
+        h.klick(h.label("lblSpieler", Dieter));
+        QCOMPARE(titel(h), QStringLiteral("Spielerinformationen: Dieter"));
+        QCOMPARE(kasten(h), alsText(SpielerInfoText(h.spiel(), Dieter, ".")));
+        // Without a current matchday no sheet is built: the caption changes, the box stays.
+        const QString vorher = kasten(h);
+        h.kind<QLineEdit>("txtAktSpieltag")->setText("99");
+        h.klick(h.kind("cmdSonntag"));
+        h.klick(h.label("lblSpieler", Bernd));
+        QCOMPARE(titel(h), QStringLiteral("Spielerinformationen: Bernd"));
+        QCOMPARE(kasten(h), vorher);
+    }
+
+    void dezimaltrennerDesBenutzers() {
+        Hauptfenster h;
+        h.oeffneSpiel();
+        QLocale::setDefault(QLocale(QLocale::German));
+        h.klick(h.label("lblSpieler", Bernd));
+        QLocale::setDefault(QLocale::c());
+        QVERIFY2(kasten(h).contains(QStringLiteral("Spieltag: \t8,0\n")),
+                 qPrintable(kasten(h)));  // 16 over 2
+    }
+
+    void teamblattAufKlickInDerTabelle() {
+        Hauptfenster h;
+        h.oeffneSpiel();
+        h.klick(h.label("lblTabName", 1));  // Hamburg is second after matchdays 1 and 2
+        QCOMPARE(titel(h), QStringLiteral("Mannschaftsinformationen: Hamburg"));
+        QCOMPARE(kasten(h), alsText(TeamInfoText(h.spiel(), 7)));
+    }
+
+    void divisionDurchNullWirdGemeldetUndDerKastenBleibt() {
+        Hauptfenster h;
+        Dateiinhalt d = kleinesSpiel();
+        d.Modus = 3;
+        d.ModusPunkte[1] = 0;  // a margin hit is worth nothing: its count divides by zero
+        h.oeffneSpiel(d);
+        const QString vorher = kasten(h);
+        h.klick(h.label("lblSpieler", Bernd));
+        QCOMPARE(h.meldungen(), QStringList{"Laufzeitfehler '11':\n\nDivision durch Null"});
+        QCOMPARE(kasten(h), vorher);
+        QCOMPARE(titel(h), QStringLiteral("Spielerinformationen: Bernd"));
+    }
+
+    void exportSchreibtDenKastenMitFussnoteInWindows1252() {
+        Hauptfenster h;
+        h.oeffneSpiel();
+        h.klick(h.label("lblTabName", 17));  // Fürth, last
+        const QString ziel = h.ordner.filePath("fuerth.txt");
+        h.dialoge.antworten << ziel;
+        h.aktion("menBericht")->trigger();
+        QCOMPARE(h.dialoge.titel.last(), QStringLiteral("Geben Sie den Namen der Datei zum Speichern ein!"));
+        const QByteArray bytes = inhalt(ziel);
+        QVERIFY(bytes.startsWith("F\xFCrth\r\n  -\r\n\r\n  GESAMT\r\n"));
+        QVERIFY(bytes.contains("  Torverh\xE4ltnis: \t0:3\r\n"));
+        const QRegularExpression schluss(
+            QStringLiteral("\r\n  - \r\n  automatisch erstellt mit 'Kalimbo' - Version 5\\.0\\.1 "
+                           "\\[[^,\\]]+, [^\\]]+\\]\r\n$"));
+        QVERIFY2(schluss.match(QString::fromLatin1(bytes)).hasMatch(), bytes.right(120).constData());
+
+        h.dialoge.antworten << QString();  // cancelled: nothing written
+        h.aktion("menBericht")->trigger();
+        QCOMPARE(h.meldungen(), QStringList());
+        QCOMPARE(inhalt(ziel), bytes);
+
+        h.dialoge.antworten << h.ordner.path();  // a folder: refused with a message
+        h.aktion("menBericht")->trigger();
+        QCOMPARE(h.meldungen().size(), 1);
+    }
+};
+
+KALIMBO_UI_TEST_MAIN(HauptInfoboxTest)
+#include "haupt_infobox_test.moc"
