@@ -1,19 +1,38 @@
 #include <QApplication>
+#include <iostream>
 
+#include "state/produkt.h"
 #include "ui/bausteine/dialoge.h"
 #include "ui/bausteine/uebersetzung.h"
 #include "ui/frmvela_haupt.h"
 #include "ui/pdfbefehl.h"
+#include "ui/programmaufruf.h"
 
 // kalimbo [SPIEL.tip], or without any window: kalimbo --pdf AUSGABE.pdf [...] SPIEL.tip
 int main(int argc, char** argv) {
-    if (kalimbo::ui::istPdfAufruf(argc, argv)) return kalimbo::ui::pdfProgramm(argc, argv);
+    using kalimbo::ui::Programmaufruf;
+    const Programmaufruf aufruf = kalimbo::ui::leseProgrammaufruf(argc, argv);
+    switch (aufruf.art) {
+        case Programmaufruf::Pdf:
+            return kalimbo::ui::pdfProgramm(argc, argv);
+        case Programmaufruf::Hilfe:
+            std::cout << kalimbo::ui::Programmhilfe;
+            return 0;
+        case Programmaufruf::Version:
+            std::cout << kalimbo::Produktname << ' ' << kalimbo::Versionszeile << '\n';
+            return 0;
+        case Programmaufruf::Falsch:
+            std::cerr << aufruf.meldung << '\n' << kalimbo::ui::Programmhilfe;
+            return 2;
+        case Programmaufruf::Fenster:
+            break;
+    }
     QApplication app(argc, argv);
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setApplicationName(QStringLiteral("Kalimbo"));
     kalimbo::ui::ladeQtUebersetzung(app, QLocale::system());
     kalimbo::ui::QtDialoge dialoge;
-    kalimbo::ui::frmVela_Haupt fenster(dialoge, argc > 1 ? QString::fromLocal8Bit(argv[1]) : QString());
+    kalimbo::ui::frmVela_Haupt fenster(dialoge, QString::fromLocal8Bit(aufruf.spiel.c_str()));
     fenster.zeigeBeimStart();
     return QApplication::exec();
 }

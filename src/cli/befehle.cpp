@@ -1,16 +1,18 @@
 #include "befehle.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <ostream>
 
 #include "aufruf.h"
+#include "berichtsbefehl.h"
 #include "bogenbefehl.h"
 #include "haeufigkeitstabelle.h"
-#include "berichtsbefehl.h"
 #include "info.h"
 #include "infoblaetter.h"
 #include "simulation.h"
+#include "state/produkt.h"
 #include "state/saisonimport.h"
 #include "state/spieldatei.h"
 #include "tabellen.h"
@@ -143,19 +145,44 @@ const std::vector<Befehl>& befehle() {
 }
 
 void schreibeGebrauch(std::ostream& aus) {
-    aus << "Aufruf: kalimbo-cli BEFEHL ...\n";
+    aus << "Aufruf: kalimbo-cli BEFEHL ...        (kalimbo-cli BEFEHL --help: mehr zu einem Befehl)\n";
     for (const Befehl& b : befehle())
         aus << "  " << b.gebrauch << '\n';
     aus << AuswertungsGebrauch << AusgabeGebrauch;
+}
+
+// The usage of one command with the options its usage line names.
+void schreibeGebrauch(std::ostream& aus, const Befehl& befehl) {
+    const std::string_view gebrauch = befehl.gebrauch;
+    aus << "Aufruf: kalimbo-cli " << gebrauch << '\n';
+    if (gebrauch.find("[AUSWERTUNG]") != std::string_view::npos) aus << AuswertungsGebrauch;
+    if (gebrauch.find("[AUSGABE]") != std::string_view::npos) aus << AusgabeGebrauch;
+}
+
+bool istHilfe(const std::string& argument) {
+    return argument == "--help" || argument == "-h";
 }
 
 }  // namespace
 
 int fuehreAus(const std::vector<std::string>& argumente, std::ostream& aus, std::ostream& fehler) {
     try {
-        for (const Befehl& b : befehle())
-            if (!argumente.empty() && argumente[0] == b.name)
-                return b.ausfuehrung({argumente.begin() + 1, argumente.end()}, aus);
+        if (!argumente.empty() && istHilfe(argumente[0])) {
+            schreibeGebrauch(aus);
+            return 0;
+        }
+        if (!argumente.empty() && argumente[0] == "--version") {
+            aus << "kalimbo-cli " << Versionszeile << '\n';
+            return 0;
+        }
+        for (const Befehl& b : befehle()) {
+            if (argumente.empty() || argumente[0] != b.name) continue;
+            if (std::any_of(argumente.begin() + 1, argumente.end(), istHilfe)) {
+                schreibeGebrauch(aus, b);
+                return 0;
+            }
+            return b.ausfuehrung({argumente.begin() + 1, argumente.end()}, aus);
+        }
         throw Gebrauchsfehler{argumente.empty() ? "" : "Unbekannter Befehl " + argumente[0] + "."};
     } catch (const Gebrauchsfehler& g) {
         if (!g.meldung.empty()) fehler << g.meldung << '\n';

@@ -5,6 +5,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "state/produkt.h"
+
 namespace kalimbo::ui {
 
 namespace {
@@ -31,13 +33,13 @@ frmUeber::frmUeber(QWidget* eltern) : QDialog(eltern) {
     setObjectName(QStringLiteral("frmÜber"));
     setWindowTitle(QStringLiteral("Über Kalimbo"));
     auto* spalte = new QVBoxLayout(this);
-    QLabel* produkt = zeile(this, "lblProdukt", QStringLiteral("Kalimbo"));
+    QLabel* produkt = zeile(this, "lblProdukt", QString::fromUtf8(Produktname));
     QFont gross = produkt->font();
     gross.setPointSizeF(gross.pointSizeF() * 2);
     gross.setBold(true);
     produkt->setFont(gross);
     spalte->addWidget(produkt);
-    spalte->addWidget(zeile(this, "lblVersion", QStringLiteral("Version: zorb 5.0.1 [04.08.2006]")));
+    spalte->addWidget(zeile(this, "lblVersion", QString::fromUtf8(Versionszeile)));
     spalte->addSpacing(12);
     spalte->addWidget(zeile(this, "lblFunktionen", Funktionen));
     spalte->addSpacing(12);
