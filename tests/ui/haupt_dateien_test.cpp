@@ -30,10 +30,6 @@ class HauptDateienTest : public QObject {
         return {h.aktion("menRecent_1")->text(), h.aktion("menRecent_2")->text(),
                 h.aktion("menRecent_3")->text()};
     }
-    static QByteArray inhalt(const QString& pfad) {
-        QFile f(pfad);
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-    }
 
   private slots:
     void zuletztGeoeffneteDateien() {
@@ -158,12 +154,7 @@ class HauptDateienTest : public QObject {
     void beschaedigteOderFehlendeDateiLaesstDasSpielStehen() {
         Hauptfenster h;
         h.oeffneSpiel();
-        const QString kaputt = h.ordner.filePath("kaputt.tip");
-        QFile f(kaputt);
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write(QByteArray(5000, 'x'));
-        f.close();
-        h.oeffne(kaputt);
+        h.oeffne(h.schreibe("kaputt.tip", QByteArray(5000, 'x')));
         const QStringList meldungen = h.meldungen();
         QCOMPARE(meldungen.size(), 1);
         QVERIFY2(
@@ -188,7 +179,7 @@ class HauptDateienTest : public QObject {
         QVERIFY(QDir().mkdir(nurLesen));
         const QString ziel = nurLesen + "/alt.tip";
         speichereSpieldatei(QFile::encodeName(ziel).toStdString(), kleinesSpiel(20));
-        const QByteArray vorher = inhalt(ziel);
+        const QByteArray vorher = Hauptfenster::inhalt(ziel);
         h.oeffneSpiel();
         QFile::setPermissions(nurLesen, QFile::ReadOwner | QFile::ExeOwner);
         h.dialoge.antworten << ziel;
@@ -201,7 +192,7 @@ class HauptDateienTest : public QObject {
         const QStringList meldungen = h.meldungen();
         QCOMPARE(meldungen.size(), 1);
         QVERIFY(meldungen[0].contains(QStringLiteral("alt.tip“ konnte nicht gespeichert werden")));
-        QCOMPARE(inhalt(ziel), vorher);
+        QCOMPARE(Hauptfenster::inhalt(ziel), vorher);
         QCOMPARE(h.spiel().Dateititel, std::string("spiel.tip"));
         QCOMPARE(h.aktion("menRecent_1")->text(), QStringLiteral("spiel.tip"));
     }

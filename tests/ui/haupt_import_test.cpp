@@ -31,16 +31,12 @@ class HauptImportTest : public QObject {
     }
 
     // A coach-change file: the ten records from the first byte, as a game file ends with them.
-    static QString trainerdatei(const Hauptfenster& h, const Feld<Trainerdaten, 10>& trainer) {
+    static QString trainerdatei(Hauptfenster& h, const Feld<Trainerdaten, 10>& trainer) {
         Dateiinhalt mit, ohne;
         mit.Trainerwechsel = trainer;
         const std::string alles = kodiereSpieldatei(mit);
         const std::size_t laenge = alles.size() - (kodiereSpieldatei(ohne).size() - 10 * 8);
-        const QString pfad = h.ordner.filePath("trainer.dat");
-        QFile f(pfad);
-        f.open(QIODevice::WriteOnly);
-        f.write(QByteArray::fromStdString(alles.substr(alles.size() - laenge)));
-        return pfad;
+        return h.schreibe("trainer.dat", QByteArray::fromStdString(alles.substr(alles.size() - laenge)));
     }
 
   private slots:
@@ -107,12 +103,7 @@ class HauptImportTest : public QObject {
     void beschaedigteTippdateiAendertNichts() {
         Hauptfenster h;
         h.oeffneSpiel();
-        const QString kaputt = h.ordner.filePath("kaputt.tip");
-        QFile f(kaputt);
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write(QByteArray(300, '\x7f'));
-        f.close();
-        importiere(h, "menTippdatei", kaputt);
+        importiere(h, "menTippdatei", h.schreibe("kaputt.tip", QByteArray(300, '\x7f')));
         QCOMPARE(h.meldungen().size(), 1);
         QCOMPARE(h.spiel().getSpielerName(Anna), std::string("Anna"));
         QCOMPARE(h.spiel().Dateititel, std::string("spiel.tip"));
@@ -153,15 +144,11 @@ class HauptImportTest : public QObject {
     void zuKurzeTrainerdateiAendertNichts() {
         Hauptfenster h;
         h.oeffneSpiel();
-        const QString kurz = h.ordner.filePath("kurz.tip");
-        QFile f(kurz);
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write(
-            QByteArray("\x01\x00\x02\x00"
-                       "AB\x00\x00\x05\x00",
-                       10));  // one record of ten
-        f.close();
-        importiere(h, "menImpTrainer", kurz);
+        // One record of ten.
+        importiere(h, "menImpTrainer",
+                   h.schreibe("kurz.tip", QByteArray("\x01\x00\x02\x00"
+                                                     "AB\x00\x00\x05\x00",
+                                                     10)));
         const QStringList meldungen = h.meldungen();
         QCOMPARE(meldungen.size(), 1);
         QVERIFY2(meldungen[0].contains(QStringLiteral("kurz.tip")), qPrintable(meldungen[0]));

@@ -22,10 +22,6 @@ class HauptInfoboxTest : public QObject {
     static QString alsText(const std::optional<std::string>& blatt) {
         return QString::fromStdString(blatt.value()).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     }
-    static QByteArray inhalt(const QString& pfad) {
-        QFile f(pfad);
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<fehlt>");
-    }
 
   private slots:
     void spielerblattBeimStartUndAufKlick() {
@@ -88,7 +84,7 @@ class HauptInfoboxTest : public QObject {
         h.dialoge.antworten << ziel;
         h.aktion("menBericht")->trigger();
         QCOMPARE(h.dialoge.titel.last(), QStringLiteral("Geben Sie den Namen der Datei zum Speichern ein!"));
-        const QByteArray bytes = inhalt(ziel);
+        const QByteArray bytes = Hauptfenster::inhalt(ziel);
         QVERIFY(bytes.startsWith("F\xFCrth\r\n  -\r\n\r\n  GESAMT\r\n"));
         QVERIFY(bytes.contains("  Torverh\xE4ltnis: \t0:3\r\n"));
         const QRegularExpression schluss(
@@ -99,7 +95,7 @@ class HauptInfoboxTest : public QObject {
         h.dialoge.antworten << QString();  // cancelled: nothing written
         h.aktion("menBericht")->trigger();
         QCOMPARE(h.meldungen(), QStringList());
-        QCOMPARE(inhalt(ziel), bytes);
+        QCOMPARE(Hauptfenster::inhalt(ziel), bytes);
 
         h.dialoge.antworten << h.ordner.path();  // a folder: refused with a message
         h.aktion("menBericht")->trigger();

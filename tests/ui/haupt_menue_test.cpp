@@ -206,9 +206,12 @@ class HauptMenueTest : public QObject {
         QTest::addColumn<QString>("eintrag");
         QTest::addColumn<QString>("fenster");
         QTest::newRow("Spielerdaten") << QStringLiteral("menSpielerAe") << "frmSpieler";
-        QTest::newRow("eigene Regel") << "menRegEigene" << "frmRegel";
-        QTest::newRow("Häufigkeiten") << QStringLiteral("menHäufigkeiten") << QStringLiteral("frmHäufigkeiten");
-        QTest::newRow("Drucken") << "menDrucken" << "frmDrucken";
+        QTest::newRow("eigene Regel") << "menRegEigene"
+                                      << "frmRegel";
+        QTest::newRow("Häufigkeiten")
+            << QStringLiteral("menHäufigkeiten") << QStringLiteral("frmHäufigkeiten");
+        QTest::newRow("Drucken") << "menDrucken"
+                                 << "frmDrucken";
         QTest::newRow("Über") << QStringLiteral("menÜber") << QStringLiteral("frmÜber");
     }
     void fensterAusDemMenue() {

@@ -84,6 +84,19 @@ Hauptfenster::~Hauptfenster() {
         QTest::qFail(qPrintable("unexpected messages: " + dialoge.meldungen.join(" | ")), __FILE__, __LINE__);
 }
 
+QString Hauptfenster::schreibe(const QString& name, const QByteArray& bytes) {
+    const QString pfad = ordner.filePath(name);
+    QFile f(pfad);
+    if (!f.open(QIODevice::WriteOnly) || f.write(bytes) != bytes.size())
+        qFatal("cannot write %s", qPrintable(pfad));
+    return pfad;
+}
+
+QByteArray Hauptfenster::inhalt(const QString& pfad) {
+    QFile f(pfad);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<fehlt>");
+}
+
 QString Hauptfenster::speichere(const QString& name, const Dateiinhalt& inhalt) {
     const QString pfad = ordner.filePath(name);
     speichereSpieldatei(QFile::encodeName(pfad).toStdString(), inhalt);

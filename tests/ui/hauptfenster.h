@@ -60,6 +60,10 @@ class Hauptfenster {
         return QStringLiteral("%1_%2").arg(QString::fromUtf8(name)).arg(i);
     }
 
+    // Writes `bytes` as the file `name` into the temporary folder and returns its path.
+    QString schreibe(const QString& name, const QByteArray& bytes);
+    // The bytes of a file; "<fehlt>" when it cannot be read.
+    static QByteArray inhalt(const QString& pfad);
     // Writes `inhalt` as a game file into the temporary folder and returns its path.
     QString speichere(const QString& name, const Dateiinhalt& inhalt);
     // Opens the game through "Öffnen", the dialog answered with `pfad`.
