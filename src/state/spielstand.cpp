@@ -53,8 +53,7 @@ i16 Spielstand::DiesTeam(int position) const {
     return team;
 }
 
-TabInfo Spielstand::getTabInfo(int team, int art) const {
-    const Tabellenzeile& z = Tabelle[team];
+TabInfo tabInfo(const Tabellenzeile& z, int art) {
     switch (art) {
         case 0:
             return z.Tabellenplatz;

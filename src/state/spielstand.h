@@ -107,6 +107,11 @@ struct Tabellenzeile {
 // Answer of getTabInfo: nothing, a number or a text, depending on the kind asked for.
 using TabInfo = std::variant<std::monostate, i16, std::string>;
 
+// One figure of a table row as getTabInfo gives it. Kinds: 0 position (0-based), 1 name,
+// 2 points, 3 "goals:against", 4 difference, 5 wins, 6 draws, 7 losses; any other kind gives an
+// empty value. Throws Laufzeitfehler::Ueberlauf when the difference leaves 16 bits.
+TabInfo tabInfo(const Tabellenzeile& zeile, int art);
+
 // Where HoleSpielerDaten takes the player data from (the player settings window).
 class SpielerDatenQuelle {
   public:
@@ -162,9 +167,8 @@ struct Spielstand : Dateiinhalt {
     const std::string& getSpielerName(int spieler) const { return Spielername[spieler]; }
     const std::string& getTeamName(int team) const { return Teamname[team]; }
     const std::string& getTeamNameKurz(int team) const { return TeamnameKurz[team]; }
-    // Kinds: 0 position, 1 name, 2 points, 3 "goals:against", 4 difference (overflow-checked),
-    // 5 wins, 6 draws, 7 losses; any other kind gives an empty value. Team 0..20.
-    TabInfo getTabInfo(int team, int art) const;
+    // tabInfo of the league table's row of `team` (0..20).
+    TabInfo getTabInfo(int team, int art) const { return tabInfo(Tabelle[team], art); }
     Farbe getSpielFarbe(int spieler, int spieltag, int spiel) const {
         return Auswertung[spieler].SpielFarbe[spieltag][spiel];
     }

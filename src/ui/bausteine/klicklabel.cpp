@@ -10,4 +10,9 @@ void KlickLabel::mouseReleaseEvent(QMouseEvent* ereignis) {
     QLabel::mouseReleaseEvent(ereignis);
 }
 
+void KlickLabel::enterEvent(QEnterEvent* ereignis) {
+    emit betreten();
+    QLabel::enterEvent(ereignis);
+}
+
 }  // namespace kalimbo::ui

@@ -4,7 +4,8 @@
 
 namespace kalimbo::ui {
 
-// A label that reports a click with the left mouse button; a text too long for it is cut off.
+// A label that reports a click with the left mouse button and the pointer coming over it; a text
+// too long for it is cut off.
 class KlickLabel : public Beschriftung {
     Q_OBJECT
   public:
@@ -12,9 +13,11 @@ class KlickLabel : public Beschriftung {
 
   signals:
     void geklickt();
+    void betreten();
 
   protected:
     void mouseReleaseEvent(QMouseEvent* ereignis) override;
+    void enterEvent(QEnterEvent* ereignis) override;
 };
 
 }  // namespace kalimbo::ui

@@ -56,13 +56,13 @@ Ligatabelle::Ligatabelle(QWidget* eltern, int ersterIndex) : QWidget(eltern) {
                 auto* klick = element<KlickLabel>(this, name, ort);
                 klick->setCursor(Qt::PointingHandCursor);
                 connect(klick, &KlickLabel::geklickt, this, [this, z] { emit nameGeklickt(z); });
+                connect(klick, &KlickLabel::betreten, this, [this, z] { emit nameBetreten(z); });
                 l = lblTabName[z] = klick;
             }
             l->setAlignment(sp.ausrichtung);
         }
     }
-    for (int z = 0; z < MaxTeams; ++z)
-        lblTabellenplatz[z]->setText(QString::number(z + 1));
+    leereZeilen();
     resize(px(Spalten.back().links + Spalten.back().breite), px(ErsteZeile + MaxTeams * Zeilenhoehe));
 }
 
@@ -77,18 +77,42 @@ void Ligatabelle::setzeZeile(int z, const Zellen& zellen) {
         labels[s]->setText(zellen[s]);
 }
 
+void Ligatabelle::leereZeilen() {
+    for (int z = 0; z < MaxTeams; ++z)
+        setzeZeile(z, {QString::number(z + 1)});
+}
+
+void Ligatabelle::fuelle(const Spielstand& spiel) {
+    for (int t = 0; t <= spiel.getAnzTeams(); ++t)
+        setzeZeile(std::get<i16>(spiel.getTabInfo(t, 0)), tabellenzellen(spiel, t));
+}
+
 void Ligatabelle::zeigeZeilen(int anzahl) {
     for (int z = 0; z < MaxTeams; ++z)
         for (QLabel* l : zeile(z))
             l->setVisible(z < anzahl);
 }
 
-Ligatabelle::Zellen tabellenzellen(const Spielstand& spiel, int team) {
+namespace {
+
+// The cells from `info(art)`, the figure of kind `art` as getTabInfo gives it.
+template <class Info>
+Ligatabelle::Zellen zellenAus(const Info& info) {
     Ligatabelle::Zellen zellen;
-    zellen[0] = QString::number(plus16(std::get<i16>(spiel.getTabInfo(team, 0)), 1));
+    zellen[0] = QString::number(plus16(std::get<i16>(info(0)), 1));
     for (int art = 1; art < 8; ++art)
-        zellen[static_cast<std::size_t>(art)] = zelle(spiel.getTabInfo(team, art));
+        zellen[static_cast<std::size_t>(art)] = zelle(info(art));
     return zellen;
+}
+
+}  // namespace
+
+Ligatabelle::Zellen tabellenzellen(const Spielstand& spiel, int team) {
+    return zellenAus([&](int art) { return spiel.getTabInfo(team, art); });
+}
+
+Ligatabelle::Zellen tabellenzellen(const Tabellenzeile& zeile) {
+    return zellenAus([&](int art) { return tabInfo(zeile, art); });
 }
 
 }  // namespace kalimbo::ui

@@ -24,6 +24,10 @@ class Ligatabelle : public QWidget {
     Ligatabelle(QWidget* eltern, int ersterIndex);
 
     void setzeZeile(int zeile, const Zellen& zellen);
+    // Every row back to its place number alone.
+    void leereZeilen();
+    // Every team 0..AnzTeams of the game's league table at the row of its position.
+    void fuelle(const Spielstand& spiel);
     // Rows 0..anzahl-1 shown, the others hidden.
     void zeigeZeilen(int anzahl);
 
@@ -34,6 +38,8 @@ class Ligatabelle : public QWidget {
 
   signals:
     void nameGeklickt(int zeile);
+    // The pointer came over the name of row `zeile`.
+    void nameBetreten(int zeile);
 
   private:
     std::array<QLabel*, 8> zeile(int z) const;
@@ -42,5 +48,7 @@ class Ligatabelle : public QWidget {
 // The cells of team `team` in the game's league table, through getTabInfo; the place shown is
 // one more than the 0-based position.
 Ligatabelle::Zellen tabellenzellen(const Spielstand& spiel, int team);
+// The cells of a row of any table built like the league table (such as a predicted one).
+Ligatabelle::Zellen tabellenzellen(const Tabellenzeile& zeile);
 
 }  // namespace kalimbo::ui
