@@ -17,6 +17,7 @@
 #include "ui/frmdrucken.h"
 #include "ui/frmhaeufigkeiten.h"
 #include "ui/frmregel.h"
+#include "ui/frmsimulation.h"
 #include "ui/frmspieler.h"
 #include "ui/frmueber.h"
 #include "ui/haupt/bedienfeld.h"
@@ -141,6 +142,7 @@ void frmVela_Haupt::verbindeMenue() {
     verbinde(m.menBericht, [this] { m_infobox->exportiere(m_dialoge, m_spiel.getFussnote()); });
     verbinde(m.menHaeufigkeiten, [this] { zeigeFenster(m_frmHaeufigkeiten); });
     verbinde(m.menDrucken, [this] { zeigeFenster(m_frmDrucken); });
+    verbinde(m.menSimulation, [this] { zeigeFenster(m_frmSimulation); });
     verbinde(m.menUeber, [this] { menUeber_Click(); });
     connect(m.menNormal, &QAction::triggered, this, [this] { m_menue.menNormal->setChecked(true); });
     // Strg+Bild auf/ab show the matchday before or after the one shown.

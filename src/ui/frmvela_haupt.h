@@ -16,6 +16,7 @@ class Dokument;
 class frmDrucken;
 class frmHaeufigkeiten;
 class frmRegel;
+class frmSimulation;
 class frmSpieler;
 class frmUeber;
 class Infobox;
@@ -66,6 +67,7 @@ class frmVela_Haupt : public QMainWindow {
     frmRegel* m_frmRegel = nullptr;
     frmHaeufigkeiten* m_frmHaeufigkeiten = nullptr;
     frmDrucken* m_frmDrucken = nullptr;
+    frmSimulation* m_frmSimulation = nullptr;
     frmUeber* m_frmUeber = nullptr;
 
     void baueFenster();

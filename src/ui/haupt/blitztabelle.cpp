@@ -44,8 +44,7 @@ void Blitztabelle::wendeSpielAn(const Spielstand& spiel) {
 }
 
 void Blitztabelle::zeige(const Spielstand& spiel, const QString& anlass) {
-    for (int t = 0; t <= spiel.getAnzTeams(); ++t)
-        m_tabelle->setzeZeile(std::get<i16>(spiel.getTabInfo(t, 0)), tabellenzellen(spiel, t));
+    m_tabelle->fuelle(spiel);
     setTitle(QStringLiteral("Blitztabelle [%1, %2]").arg(anlass, uhrzeit()));
 }
 
