@@ -102,6 +102,8 @@ struct Tabellenzeile {
         HeimGegentore = 0;
     i16 AuswPunkte = 0, AuswSiege = 0, AuswUnentschieden = 0, AuswNiederlagen = 0, AuswTore = 0,
         AuswGegentore = 0;
+
+    friend bool operator==(const Tabellenzeile&, const Tabellenzeile&) = default;
 };
 
 // Answer of getTabInfo: nothing, a number or a text, depending on the kind asked for.

@@ -105,8 +105,8 @@ class HauptAnsichtTest : public QObject {
         h.oeffneSpiel();
         h.auswerten();
         h.zeigeSpieltag(1);
-        QCOMPARE(h.feld("txtHeimTipp", feld)->palette().color(QPalette::Base), farbe);
-        QCOMPARE(h.feld("txtAusTipp", feld)->palette().color(QPalette::Base), farbe);
+        QCOMPARE(h.feld("txtHeimTipp", feld)->hintergrund(), farbe);
+        QCOMPARE(h.feld("txtAusTipp", feld)->hintergrund(), farbe);
     }
 
     void nichtGewerteterSpieltagHatSchaltflaechenfarbe() {
@@ -114,7 +114,7 @@ class HauptAnsichtTest : public QObject {
         h.oeffneSpiel();
         h.auswerten();
         h.zeigeSpieltag(4);
-        QCOMPARE(h.feld("txtHeimTipp", Bernd * 10)->palette().color(QPalette::Base),
+        QCOMPARE(h.feld("txtHeimTipp", Bernd * 10)->hintergrund(),
                  QApplication::palette().color(QPalette::Button));
     }
 
@@ -138,9 +138,9 @@ class HauptAnsichtTest : public QObject {
         h.kind<QCheckBox>("chkSonntag")->setChecked(true);
         h.auswerten();
         QCOMPARE(h.label("lblGesamtPunkte", Anna)->text(), QStringLiteral("10"));
-        QCOMPARE(h.feld("txtHeimTipp", Anna * 10 + 7)->palette().color(QPalette::Base),
+        QCOMPARE(h.feld("txtHeimTipp", Anna * 10 + 7)->hintergrund(),
                  QApplication::palette().color(QPalette::Button));
-        QCOMPARE(h.feld("txtHeimTipp", Anna * 10 + 6)->palette().color(QPalette::Base), QColor(Qt::white));
+        QCOMPARE(h.feld("txtHeimTipp", Anna * 10 + 6)->hintergrund(), QColor(Qt::white));
         h.kind<QCheckBox>("chkSonntag")->setChecked(false);
         h.auswerten();
         QCOMPARE(h.label("lblGesamtPunkte", Anna)->text(), QStringLiteral("13"));

@@ -102,12 +102,12 @@ class HauptEingabeTest : public QObject {
         const QString vorher = feld->text();
         QVERIFY(vorher != QStringLiteral("0") || box.contains("Tipp"));
         betrete(feld);
-        QCOMPARE(feld->palette().color(QPalette::Base), QColor(255, 0, 0));
-        QCOMPARE(feld->palette().color(QPalette::Text), QColor(Qt::white));
+        QCOMPARE(feld->hintergrund(), QColor(255, 0, 0));
+        QCOMPARE(feld->schrift(), QColor(Qt::white));
         verlasse(feld);
         QCOMPARE(feld->text(), vorher);
-        QTEST(feld->palette().color(QPalette::Base), "hintergrund");
-        QTEST(feld->palette().color(QPalette::Text), "schrift");
+        QTEST(feld->hintergrund(), "hintergrund");
+        QTEST(feld->schrift(), "schrift");
 
         betrete(feld);
         QTest::keyClick(feld, Qt::Key_9);

@@ -75,6 +75,7 @@ void Ligatabelle::setzeZeile(int z, const Zellen& zellen) {
     const auto labels = zeile(static_cast<int>(pruefeIndex(z, MaxTeams)));
     for (std::size_t s = 0; s < labels.size(); ++s)
         labels[s]->setText(zellen[s]);
+    m_gezeigt[static_cast<std::size_t>(z)].reset();
 }
 
 void Ligatabelle::leereZeilen() {
@@ -83,8 +84,13 @@ void Ligatabelle::leereZeilen() {
 }
 
 void Ligatabelle::fuelle(const Spielstand& spiel) {
-    for (int t = 0; t <= spiel.getAnzTeams(); ++t)
-        setzeZeile(std::get<i16>(spiel.getTabInfo(t, 0)), tabellenzellen(spiel, t));
+    for (int t = 0; t <= spiel.getAnzTeams(); ++t) {
+        const auto z = pruefeIndex(std::get<i16>(spiel.getTabInfo(t, 0)), MaxTeams);
+        const Gezeigt neu{t, spiel.Tabelle[t]};
+        if (m_gezeigt[z] && m_gezeigt[z]->team == t && m_gezeigt[z]->zeile == neu.zeile) continue;
+        setzeZeile(static_cast<int>(z), tabellenzellen(spiel, t));
+        m_gezeigt[z] = neu;
+    }
 }
 
 void Ligatabelle::zeigeZeilen(int anzahl) {

@@ -2,6 +2,7 @@
 
 #include <QWidget>
 #include <array>
+#include <optional>
 
 #include "state/spielstand.h"
 
@@ -26,7 +27,8 @@ class Ligatabelle : public QWidget {
     void setzeZeile(int zeile, const Zellen& zellen);
     // Every row back to its place number alone.
     void leereZeilen();
-    // Every team 0..AnzTeams of the game's league table at the row of its position.
+    // Every team 0..AnzTeams of the game's league table at the row of its position. Rows showing
+    // what they showed before are not touched, so after a goal only the changed rows repaint.
     void fuelle(const Spielstand& spiel);
     // Rows 0..anzahl-1 shown, the others hidden.
     void zeigeZeilen(int anzahl);
@@ -43,6 +45,13 @@ class Ligatabelle : public QWidget {
 
   private:
     std::array<QLabel*, 8> zeile(int z) const;
+
+    // What fuelle() drew into a row: the team and its row of the league table.
+    struct Gezeigt {
+        int team;
+        Tabellenzeile zeile;
+    };
+    std::array<std::optional<Gezeigt>, MaxTeams> m_gezeigt;
 };
 
 // The cells of team `team` in the game's league table, through getTabInfo; the place shown is

@@ -28,8 +28,23 @@ Eingabefeld::Eingabefeld(QWidget* eltern, Art art) : QWidget(eltern), m_art(art)
 }
 
 void Eingabefeld::setText(const QString& text) {
+    m_zahl.reset();
     if (text == m_text) return;
     m_text = text;
+    update();
+}
+
+void Eingabefeld::setZahl(i16 zahl) {
+    if (m_zahl == zahl) return;
+    m_text = QString::number(zahl);
+    m_zahl = zahl;
+    update();
+}
+
+void Eingabefeld::setzeFarben(const QColor& hintergrund, const QColor& schrift) {
+    if (hintergrund == m_hintergrund && schrift == m_schrift) return;
+    m_hintergrund = hintergrund;
+    m_schrift = schrift;
     update();
 }
 
@@ -73,11 +88,10 @@ void Eingabefeld::keyPressEvent(QKeyEvent* ereignis) {
 
 void Eingabefeld::paintEvent(QPaintEvent*) {
     QPainter maler(this);
-    const QPalette& farben = palette();
-    maler.fillRect(rect(), farben.color(QPalette::Base));
-    maler.setPen(farben.color(QPalette::Dark));
+    maler.fillRect(rect(), m_hintergrund);
+    maler.setPen(palette().color(QPalette::Dark));
     maler.drawRect(rect().adjusted(0, 0, -1, -1));
-    maler.setPen(farben.color(QPalette::Text));
+    maler.setPen(m_schrift);
     maler.drawText(rect(), Qt::AlignCenter, m_text);
     if (hasFocus()) {  // the place where typing goes
         const int x = (width() + fontMetrics().horizontalAdvance(m_text)) / 2 + 1;

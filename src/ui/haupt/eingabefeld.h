@@ -1,6 +1,10 @@
 #pragma once
 
+#include <QColor>
 #include <QWidget>
+#include <optional>
+
+#include "state/zahl16.h"
 
 namespace kalimbo::ui {
 
@@ -27,6 +31,12 @@ class Eingabefeld : public QWidget {
     const QString& text() const { return m_text; }
     void setText(const QString& text);
     void clear() { setText(QString()); }
+    // Shows the number `zahl`; nothing happens when it is shown already, as it mostly is when the
+    // matchday is drawn again.
+    void setZahl(i16 zahl);
+    void setzeFarben(const QColor& hintergrund, const QColor& schrift);
+    const QColor& hintergrund() const { return m_hintergrund; }
+    const QColor& schrift() const { return m_schrift; }
     bool wirdBearbeitet() const { return m_bearbeitung; }
 
   signals:
@@ -47,6 +57,8 @@ class Eingabefeld : public QWidget {
 
     Art m_art;
     QString m_text;
+    std::optional<i16> m_zahl;  // the number m_text shows, when the program set it as one
+    QColor m_hintergrund = Qt::white, m_schrift = Qt::black;
     bool m_bearbeitung = false;
 };
 

@@ -8,6 +8,7 @@
 #include "ui/bausteine/farben.h"
 #include "ui/bausteine/klicklabel.h"
 #include "ui/bausteine/twips.h"
+#include "ui/bausteine/zahlenlabel.h"
 #include "ui/haupt/bedienfeld.h"
 
 namespace kalimbo::ui {
@@ -29,9 +30,18 @@ bool istErgebnis(const Eingabefeld* feld) {
 
 void setzeNormaleFarben(Eingabefeld* feld) {
     if (istErgebnis(feld))
-        setzeFarben(feld, Dunkelgrau, Qt::white);
+        feld->setzeFarben(Dunkelgrau, Qt::white);
     else
-        setzeFarben(feld, Qt::white, Qt::black);
+        feld->setzeFarben(Qt::white, Qt::black);
+}
+
+// The text of a box as the core reads it; a box holds digits (or "X") only, so one byte a character.
+std::string ascii(const QString& text) {
+    std::string s;
+    s.reserve(static_cast<std::size_t>(text.size()));
+    for (const QChar c : text)
+        s += static_cast<char>(c.unicode() < 128 ? c.unicode() : '?');
+    return s;
 }
 
 }  // namespace
@@ -131,7 +141,7 @@ void Spieltagsansicht::erzeugeSpielerspalte(int p) {
         txtAusTipp[i]->setGeometry(rechteck(375, oben, 345, 300));
     }
     auto zahl = [&](const char* name, int links, int oben) {
-        auto* l = element<QLabel>(saeule, indexName(name, p), rechteck(links, oben, 345, 240));
+        auto* l = element<Zahlenlabel>(saeule, indexName(name, p), rechteck(links, oben, 345, 240));
         l->setAlignment(Qt::AlignCenter);
         return l;
     };
@@ -208,16 +218,21 @@ void Spieltagsansicht::zeige(const Spielstand& spiel) {
     // A box still being edited keeps its look and now stands for the value just drawn into it.
     if (Eingabefeld* feld = bearbeitetesFeld()) {
         m_wertBeiFokus[feld->art()] = zahlAusText(feld->text().toStdString());
-        setzeFarben(feld, Rot, Qt::white);
+        feld->setzeFarben(Rot, Qt::white);
     }
 }
 
 void Spieltagsansicht::zeigeSpiele(const Spielstand& spiel, int m) {
     for (int k = 0; k <= spiel.getAnzSpiele(); ++k) {
-        lblHeimTeam[k]->setText(text(spiel.getTeamName(spiel.getPaarung(m, k, 0))));
-        lblAusTeam[k]->setText(text(spiel.getTeamName(spiel.getPaarung(m, k, 1))));
-        txtHeimErgebnis[k]->setText(QString::number(spiel.getErgebnis(m, k, 0)));
-        txtAusErgebnis[k]->setText(QString::number(spiel.getErgebnis(m, k, 1)));
+        for (int seite = 0; seite < 2; ++seite) {
+            const std::string& name = spiel.getTeamName(spiel.getPaarung(m, k, seite));
+            std::string& gezeigt = m_teamnamen[static_cast<std::size_t>(k)][static_cast<std::size_t>(seite)];
+            if (name == gezeigt) continue;
+            gezeigt = name;
+            (seite == 0 ? lblHeimTeam : lblAusTeam)[static_cast<std::size_t>(k)]->setText(text(name));
+        }
+        txtHeimErgebnis[k]->setZahl(spiel.getErgebnis(m, k, 0));
+        txtAusErgebnis[k]->setZahl(spiel.getErgebnis(m, k, 1));
         setzeNormaleFarben(txtHeimErgebnis[k]);
         setzeNormaleFarben(txtAusErgebnis[k]);
     }
@@ -231,10 +246,10 @@ void Spieltagsansicht::zeigeSpieler(const Spielstand& spiel, int m) {
         fraSpielerSaeule[p]->setVisible(spielt);
         if (!spielt) continue;
         const SpielerAuswertung& r = spiel.Auswertung[p];
-        lblSptgPunkte[p]->setText(QString::number(r.SpieltagPunkte[m]));
-        lblSptgPlatz[p]->setText(QString::number(plus16(r.SptgPlatz[m], 1)));
-        lblGesamtPunkte[p]->setText(QString::number(r.GesamtPunkte));
-        lblGesamtPlatz[p]->setText(QString::number(plus16(r.Platz, 1)));
+        lblSptgPunkte[p]->setZahl(r.SpieltagPunkte[m]);
+        lblSptgPlatz[p]->setZahl(plus16(r.SptgPlatz[m], 1));
+        lblGesamtPunkte[p]->setZahl(r.GesamtPunkte);
+        lblGesamtPlatz[p]->setZahl(plus16(r.Platz, 1));
         fraSpielerSaeule[p]->move(px(spalte * Spaltenabstand + ErsteSpalte), fraSpielerSaeule[p]->y());
         ++spalte;
     }
@@ -245,11 +260,11 @@ void Spieltagsansicht::zeigeTipps(const Spielstand& spiel, int m) {
     for (std::size_t i = 0; i < txtHeimTipp.size(); ++i) {
         const int p = static_cast<int>(i) / MaxSpiele;
         const int k = static_cast<int>(i) % MaxSpiele;
-        txtHeimTipp[i]->setText(QString::number(spiel.getTipp(p, m, k, 0)));
-        txtAusTipp[i]->setText(QString::number(spiel.getTipp(p, m, k, 1)));
+        txtHeimTipp[i]->setZahl(spiel.getTipp(p, m, k, 0));
+        txtAusTipp[i]->setZahl(spiel.getTipp(p, m, k, 1));
         const QColor farbe = qfarbe(spiel.getSpielFarbe(p, m, k));
-        setzeFarben(txtHeimTipp[i], farbe, Qt::black);
-        setzeFarben(txtAusTipp[i], farbe, Qt::black);
+        txtHeimTipp[i]->setzeFarben(farbe, Qt::black);
+        txtAusTipp[i]->setzeFarben(farbe, Qt::black);
     }
 }
 
@@ -264,33 +279,33 @@ Eingabefeld* Spieltagsansicht::bearbeitetesFeld() const {
     return nullptr;
 }
 
-QString Spieltagsansicht::wertVon(const Eingabefeld* feld) const {
-    if (feld->wirdBearbeitet() && feld->text().isEmpty()) return QString::number(m_wertBeiFokus[feld->art()]);
-    return feld->text();
+std::string Spieltagsansicht::wertVon(const Eingabefeld* feld) const {
+    if (feld->wirdBearbeitet() && feld->text().isEmpty()) return std::to_string(m_wertBeiFokus[feld->art()]);
+    return ascii(feld->text());
 }
 
 Spieltagseintraege Spieltagsansicht::eintraege() const {
     Spieltagseintraege e;
     for (std::size_t k = 0; k < MaxSpiele; ++k) {
-        e.heimErgebnis[k] = wertVon(txtHeimErgebnis[k]).toStdString();
-        e.ausErgebnis[k] = wertVon(txtAusErgebnis[k]).toStdString();
+        e.heimErgebnis[k] = wertVon(txtHeimErgebnis[k]);
+        e.ausErgebnis[k] = wertVon(txtAusErgebnis[k]);
     }
     for (std::size_t i = 0; i < txtHeimTipp.size(); ++i) {
-        e.heimTipp[i] = wertVon(txtHeimTipp[i]).toStdString();
-        e.ausTipp[i] = wertVon(txtAusTipp[i]).toStdString();
+        e.heimTipp[i] = wertVon(txtHeimTipp[i]);
+        e.ausTipp[i] = wertVon(txtAusTipp[i]);
     }
     return e;
 }
 
 void Spieltagsansicht::zaehleTor(int spiel, int seite) {
     Eingabefeld* feld = (seite == 0 ? txtHeimErgebnis : txtAusErgebnis)[pruefeIndex(spiel, MaxSpiele)];
-    feld->setText(QString::number(plus16(zahlAusText(wertVon(feld).toStdString()), 1)));
+    feld->setZahl(plus16(zahlAusText(wertVon(feld)), 1));
 }
 
 void Spieltagsansicht::feld_GotFocus(Eingabefeld* feld) {
     m_wertBeiFokus[feld->art()] = zahlAusText(feld->text().toStdString());
     feld->clear();
-    setzeFarben(feld, Rot, Qt::white);
+    feld->setzeFarben(Rot, Qt::white);
 }
 
 void Spieltagsansicht::feld_LostFocus(Eingabefeld* feld) {

@@ -15,6 +15,7 @@ namespace kalimbo::ui {
 
 class Bedienfeld;
 class KlickLabel;
+class Zahlenlabel;
 
 // The matchday view ("fraSpiele"): the fixtures with their result boxes, one column of tip boxes
 // per taking-part player with his points and places, and the frames around the Sunday matches.
@@ -57,7 +58,9 @@ class Spieltagsansicht : public QFrame {
     std::array<Eingabefeld*, MaxSpieler * MaxSpiele> txtHeimTipp{}, txtAusTipp{};
     std::array<QFrame*, MaxSpieler> fraSpielerSaeule{};
     std::array<KlickLabel*, MaxSpieler> lblSpieler{};
-    std::array<QLabel*, MaxSpieler> lblSptgPunkte{}, lblSptgPlatz{}, lblGesamtPunkte{}, lblGesamtPlatz{};
+    std::array<Zahlenlabel*, MaxSpieler> lblSptgPunkte{}, lblSptgPlatz{}, lblGesamtPunkte{}, lblGesamtPlatz{};
+    // The team names drawn into the fixture labels, so that an unchanged one is not set again.
+    std::array<std::array<std::string, 2>, MaxSpiele> m_teamnamen;
     std::array<QFrame*, 2> shpSonntag{};
     QFrame* linTrenn = nullptr;
     QLabel *lblSptgZeile = nullptr, *lblGesamtZeile = nullptr;
@@ -77,7 +80,7 @@ class Spieltagsansicht : public QFrame {
     void zeigeTipps(const Spielstand& spiel, int m);
     // The box being edited, if the user is in one.
     Eingabefeld* bearbeitetesFeld() const;
-    QString wertVon(const Eingabefeld* feld) const;
+    std::string wertVon(const Eingabefeld* feld) const;
 };
 
 }  // namespace kalimbo::ui

@@ -3,6 +3,7 @@
 #include "ui/bausteine/beschriftung.h"
 #include "ui/bausteine/elemente.h"
 #include "ui/bausteine/twips.h"
+#include "ui/bausteine/zahlenlabel.h"
 
 namespace kalimbo::ui {
 
@@ -35,9 +36,9 @@ Tipptabellen::Tipptabellen(QWidget* eltern) : QGroupBox(QStringLiteral("Tipptabe
     ueberschrift(this, QStringLiteral("lblGesamttabelleKopf"), QStringLiteral("Gesamt"), 1980);
     for (int z = 0; z < MaxSpieler; ++z) {
         lblSptgTabelle[z] = zelle<Beschriftung>(this, "lblSptgTabelle", z, 120, 1320, Links);
-        lblSptgTabellePkt[z] = zelle<QLabel>(this, "lblSptgTabellePkt", z, 1440, 420, Rechts);
+        lblSptgTabellePkt[z] = zelle<Zahlenlabel>(this, "lblSptgTabellePkt", z, 1440, 420, Rechts);
         lblGesamttabelle[z] = zelle<Beschriftung>(this, "lblGesamttabelle", z, 1980, 1320, Links);
-        lblGesamttabellePkt[z] = zelle<QLabel>(this, "lblGesamttabellePkt", z, 3300, 420, Rechts);
+        lblGesamttabellePkt[z] = zelle<Zahlenlabel>(this, "lblGesamttabellePkt", z, 3300, 420, Rechts);
     }
 }
 
@@ -48,15 +49,15 @@ void Tipptabellen::zeige(const Spielstand& spiel) {
         const auto s = pruefeIndex(r.SptgSortierplatz[m], MaxSpieler);
         const auto g = pruefeIndex(r.Sortierplatz, MaxSpieler);
         const bool spielt = spiel.getTeilnehmer(p) == 1;
-        lblSptgTabellePkt[s]->setText(QString::number(spiel.getSpieltagPunkte(p, m)));
+        lblSptgTabellePkt[s]->setZahl(spiel.getSpieltagPunkte(p, m));
         if (spielt) {
             const QString name = QStringLiteral("  ") + text(spiel.getSpielerName(p));
-            lblSptgTabelle[s]->setText(name);
+            lblSptgTabelle[s]->setText(name);  // unchanged text costs no repaint
             lblGesamttabelle[g]->setText(name);
-            lblGesamttabellePkt[g]->setText(QString::number(spiel.getGesamtPunkte(p)));
+            lblGesamttabellePkt[g]->setZahl(spiel.getGesamtPunkte(p));
         }
-        for (QLabel* l : {static_cast<QLabel*>(lblSptgTabelle[s]), lblSptgTabellePkt[s],
-                          static_cast<QLabel*>(lblGesamttabelle[g]), lblGesamttabellePkt[g]})
+        for (QLabel* l : std::initializer_list<QLabel*>{lblSptgTabelle[s], lblSptgTabellePkt[s],
+                                                        lblGesamttabelle[g], lblGesamttabellePkt[g]})
             l->setVisible(spielt);
     }
     lblSptgstabelle->setText(QStringLiteral("Spieltag %1").arg(m + 1));

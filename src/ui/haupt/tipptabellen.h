@@ -10,6 +10,7 @@ class QLabel;
 namespace kalimbo::ui {
 
 class Beschriftung;
+class Zahlenlabel;
 
 // The two small rankings of the players: points of the shown matchday and total points, one
 // row per position.
@@ -25,7 +26,7 @@ class Tipptabellen : public QGroupBox {
 
   private:
     std::array<Beschriftung*, MaxSpieler> lblSptgTabelle{}, lblGesamttabelle{};
-    std::array<QLabel*, MaxSpieler> lblSptgTabellePkt{}, lblGesamttabellePkt{};
+    std::array<Zahlenlabel*, MaxSpieler> lblSptgTabellePkt{}, lblGesamttabellePkt{};
     QLabel* lblSptgstabelle = nullptr;
 };
 
