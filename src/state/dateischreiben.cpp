@@ -1,9 +1,15 @@
 #include "dateischreiben.h"
 
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdint>
 #include <cstdio>
-#include <memory>
+#include <random>
 #include <string>
-#include <system_error>
 
 #include "fehler.h"
 
@@ -13,48 +19,190 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct DateiSchliessen {
-    void operator()(std::FILE* f) const { std::fclose(f); }
-};
-using DateiZeiger = std::unique_ptr<std::FILE, DateiSchliessen>;
+// Links followed at most, as the kernel does, before a chain counts as a loop.
+constexpr int MaxVerknuepfungen = 40;
 
 [[noreturn]] void scheitern(const fs::path& ziel, const std::string& grund) {
     throw Dateifehler("Die Datei „" + ziel.string() + "“ konnte nicht gespeichert werden: " + grund);
 }
 
-// Creates a temporary file that did not exist before (mode "x"), beside the target.
-std::pair<DateiZeiger, fs::path> neueTemporaereDatei(const fs::path& ziel) {
-    for (int versuch = 0; versuch < 100; ++versuch) {
-        fs::path kandidat = ziel;
-        kandidat += ".tmp" + std::to_string(versuch);
-        if (std::FILE* f = std::fopen(kandidat.c_str(), "wbx")) return {DateiZeiger(f), kandidat};
-        if (errno != EEXIST) break;
+// German reason for an error number of the operating system.
+std::string grund(int fehler) {
+    switch (fehler) {
+        case ENOENT:
+        case ENOTDIR:
+            return "Der Ordner existiert nicht.";
+        case EACCES:
+        case EPERM:
+            return "Im Ordner darf nicht geschrieben werden.";
+        case EROFS:
+            return "Der Datenträger ist schreibgeschützt.";
+        case ENOSPC:
+        case EDQUOT:
+            return "Der Datenträger ist voll.";
+        case EFBIG:
+            return "Die Datei wäre größer, als erlaubt ist.";
+        case ENAMETOOLONG:
+            return "Der Name ist zu lang.";
+        case ELOOP:
+            return "Zu viele symbolische Verknüpfungen hintereinander (eine Schleife?).";
+        case EIO:
+            return "Ein-/Ausgabefehler des Datenträgers.";
+        default:
+            return "Das Betriebssystem meldet Fehler Nr. " + std::to_string(fehler) + ".";
     }
-    scheitern(ziel, "Der Ordner existiert nicht oder ist schreibgeschützt.");
+}
+
+// The path a save writes to: `pfad` itself, or for a symbolic link the path its chain of links
+// finally names, whether that exists yet or not. Saving through a link replaces (or creates) the
+// file it points to and keeps the link.
+fs::path zielHinterVerknuepfungen(const fs::path& pfad) {
+    fs::path ziel = pfad;
+    for (int i = 0; i < MaxVerknuepfungen; ++i) {
+        struct stat info {};
+        if (::lstat(ziel.c_str(), &info) != 0 || !S_ISLNK(info.st_mode)) return ziel;
+        std::error_code ec;
+        const fs::path verweis = fs::read_symlink(ziel, ec);
+        if (ec) scheitern(pfad, grund(ec.value()));
+        ziel = verweis.is_absolute() ? verweis : ziel.parent_path() / verweis;
+    }
+    scheitern(pfad, grund(ELOOP));
+}
+
+// Temporary files of one target are named "." + a hash of the target's name + "-" + six random
+// letters or digits + ".tmp": short whatever the target's name, hidden, and recognisable, so that
+// a later save can remove what an interrupted one left behind.
+std::string kennung(const fs::path& ziel) {
+    std::uint64_t hash = 14695981039346656037u;  // FNV-1a
+    for (const char c : ziel.filename().string())
+        hash = (hash ^ static_cast<unsigned char>(c)) * 1099511628211u;
+    char text[20];
+    std::snprintf(text, sizeof text, "%016llx", static_cast<unsigned long long>(hash));
+    return std::string(".") + text + "-";
+}
+
+constexpr std::string_view Endung = ".tmp";
+constexpr std::size_t Zufallszeichen = 6;
+
+bool istRest(const std::string& name, const std::string& kennung) {
+    return name.size() == kennung.size() + Zufallszeichen + Endung.size() && name.starts_with(kennung) &&
+           name.ends_with(Endung);
+}
+
+// A new temporary file beside the target, removed again unless it has been renamed.
+class TemporaereDatei {
+  public:
+    TemporaereDatei(const fs::path& ordner, const std::string& kennung, mode_t modus, const fs::path& ziel)
+        : m_ziel(ziel) {
+        static constexpr char Zeichen[] = "abcdefghijklmnopqrstuvwxyz0123456789";
+        std::random_device zufall;
+        for (int versuch = 0; versuch < 100; ++versuch) {
+            std::string name = kennung;
+            for (std::size_t i = 0; i < Zufallszeichen; ++i)
+                name += Zeichen[zufall() % (sizeof Zeichen - 1)];
+            name += Endung;
+            m_pfad = ordner / name;
+            m_fd = ::open(m_pfad.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, modus);
+            if (m_fd >= 0) return;
+            if (errno != EEXIST) scheitern(m_ziel, grund(errno));
+        }
+        scheitern(m_ziel, grund(EEXIST));
+    }
+    TemporaereDatei(const TemporaereDatei&) = delete;
+    TemporaereDatei& operator=(const TemporaereDatei&) = delete;
+    ~TemporaereDatei() {
+        if (m_fd >= 0) ::close(m_fd);
+        if (!m_umbenannt) ::unlink(m_pfad.c_str());
+    }
+
+    void schreibe(std::string_view bytes) {
+        while (!bytes.empty()) {
+            const ssize_t n = ::write(m_fd, bytes.data(), bytes.size());
+            if (n < 0 && errno == EINTR) continue;
+            if (n <= 0) scheitern(m_ziel, "Schreibfehler: " + grund(n < 0 ? errno : ENOSPC));
+            bytes.remove_prefix(static_cast<std::size_t>(n));
+        }
+    }
+
+    // Gives the file the owner, group and permissions of the file it replaces. Only root may hand
+    // a file to another owner; anyone else keeps at least the group where allowed.
+    void uebernimmRechte(const struct stat& alt) {
+        const bool fremd = alt.st_uid != ::geteuid() || alt.st_gid != ::getegid();
+        if (fremd && ::fchown(m_fd, alt.st_uid, alt.st_gid) != 0 &&
+            ::fchown(m_fd, static_cast<uid_t>(-1), alt.st_gid) != 0) {
+            // Neither is allowed: the copy stays ours, with the old file's permissions below.
+        }
+        if (::fchmod(m_fd, alt.st_mode & 07777) != 0)
+            scheitern(m_ziel, "Die Rechte der alten Datei lassen sich nicht übertragen: " + grund(errno));
+    }
+
+    // Writes the data through to the disk and closes the file.
+    void schliesse() {
+        if (::fsync(m_fd) != 0) scheitern(m_ziel, "Schreibfehler: " + grund(errno));
+        const int fd = m_fd;
+        m_fd = -1;
+        if (::close(fd) != 0) scheitern(m_ziel, "Schreibfehler: " + grund(errno));
+    }
+
+    void benenneUm(const fs::path& ziel) {
+        if (::rename(m_pfad.c_str(), ziel.c_str()) != 0)
+            scheitern(m_ziel, "Die vorhandene Datei kann nicht ersetzt werden: " + grund(errno));
+        m_umbenannt = true;
+    }
+
+  private:
+    fs::path m_ziel;  // as the user named it, for messages
+    fs::path m_pfad;
+    int m_fd = -1;
+    bool m_umbenannt = false;
+};
+
+// Removes the temporary files that interrupted saves of the same target left in the folder.
+void entferneReste(const fs::path& ordner, const std::string& kennung) {
+    DIR* verzeichnis = ::opendir(ordner.c_str());
+    if (!verzeichnis) return;
+    while (const dirent* eintrag = ::readdir(verzeichnis)) {
+        if (istRest(eintrag->d_name, kennung)) ::unlinkat(::dirfd(verzeichnis), eintrag->d_name, 0);
+    }
+    ::closedir(verzeichnis);
+}
+
+// Makes the new name in the folder durable. The file has been replaced already; if the folder
+// cannot be synchronised (some file systems refuse), there is nothing better to do than go on.
+void synchronisiereOrdner(const fs::path& ordner) {
+    const int fd = ::open(ordner.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd < 0) return;
+    ::fsync(fd);
+    ::close(fd);
 }
 
 }  // namespace
 
 void schreibeDateiAtomar(const fs::path& zielAngabe, std::string_view bytes) {
-    std::error_code ec;
-    // Saving through a link replaces the file it points to, not the link.
-    const fs::path ziel = fs::is_symlink(zielAngabe, ec) ? fs::canonical(zielAngabe, ec) : zielAngabe;
-    if (fs::is_directory(ziel, ec)) scheitern(zielAngabe, "Unter diesem Namen gibt es einen Ordner.");
+    const fs::path ziel = zielHinterVerknuepfungen(zielAngabe);
+    struct stat alt {};
+    const bool vorhanden = ::stat(ziel.c_str(), &alt) == 0;
+    if (!vorhanden && errno != ENOENT) scheitern(zielAngabe, grund(errno));
+    if (vorhanden) {
+        if (S_ISDIR(alt.st_mode)) scheitern(zielAngabe, "Unter diesem Namen gibt es einen Ordner.");
+        if (!S_ISREG(alt.st_mode))
+            scheitern(zielAngabe, "Unter diesem Namen gibt es etwas anderes als eine Datei.");
+        // Refused exactly when writing into the file in place would be refused.
+        if (::faccessat(AT_FDCWD, ziel.c_str(), W_OK, AT_EACCESS) != 0)
+            scheitern(zielAngabe, errno == EACCES ? "Die Datei ist schreibgeschützt." : grund(errno));
+    }
 
-    auto [datei, temp] = neueTemporaereDatei(ziel);
-    const bool geschrieben = std::fwrite(bytes.data(), 1, bytes.size(), datei.get()) == bytes.size() &&
-                             std::fflush(datei.get()) == 0;
-    const bool geschlossen = std::fclose(datei.release()) == 0;
-    if (!geschrieben || !geschlossen) {
-        fs::remove(temp, ec);
-        scheitern(zielAngabe, "Schreibfehler (ist der Datenträger voll?).");
-    }
-    if (fs::exists(ziel, ec)) fs::permissions(temp, fs::status(ziel, ec).permissions(), ec);
-    fs::rename(temp, ziel, ec);
-    if (ec) {
-        fs::remove(temp, ec);
-        scheitern(zielAngabe, "Die vorhandene Datei kann nicht ersetzt werden.");
-    }
+    const fs::path ordner = ziel.has_parent_path() ? ziel.parent_path() : fs::path(".");
+    const std::string k = kennung(ziel);
+    // A new file gets the permissions the umask gives any new file; a replacement is created with
+    // those of the old file, so the copy is never readable by more people than the original.
+    TemporaereDatei temp(ordner, k, vorhanden ? alt.st_mode & 0777 : 0666, zielAngabe);
+    temp.schreibe(bytes);
+    if (vorhanden) temp.uebernimmRechte(alt);
+    temp.schliesse();
+    temp.benenneUm(ziel);
+    entferneReste(ordner, k);
+    synchronisiereOrdner(ordner);
 }
 
 }  // namespace kalimbo
