@@ -288,8 +288,8 @@ TEST(Speichern, JederFehlerNenntSeinenGrund) {
               abgelehnt(ordner / "fehlt" / "spiel.tip", "Der Ordner existiert nicht."));
     EXPECT_EQ(fehlerBeimSpeichern(ordner / "ordner.tip"),
               abgelehnt(ordner / "ordner.tip", "Unter diesem Namen gibt es einen Ordner."));
-    ASSERT_EQ(mkfifo((ordner / "fifo.tip").c_str(), 0600),
-              0);  // not a real device, which a faulty save would replace
+    // A pipe in the test folder, not a real device, which a faulty save would replace.
+    ASSERT_EQ(mkfifo((ordner / "fifo.tip").c_str(), 0600), 0);
     EXPECT_EQ(fehlerBeimSpeichern(ordner / "fifo.tip"),
               abgelehnt(ordner / "fifo.tip", "Unter diesem Namen gibt es etwas anderes als eine Datei."));
 
