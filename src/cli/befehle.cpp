@@ -189,7 +189,7 @@ int fuehreAus(const std::vector<std::string>& argumente, std::ostream& aus, std:
         schreibeGebrauch(fehler);
         return 2;
     } catch (const std::exception& e) {
-        fehler << "Fehler: " << e.what() << '\n';
+        fehler << "Fehler: " << deutscheMeldung(e) << '\n';
         return 1;
     }
 }

@@ -1,5 +1,7 @@
 #include "saisonplan.h"
 
+#include "fehlerort.h"
+
 namespace kalimbo {
 
 namespace {
@@ -36,7 +38,9 @@ void erstelleSaisonplan(const Spielstand& s, bool sonntagsspieleAuslassen, Saiso
             plan.gewertet[i] = -1;
             plan.toreHeim[i] = ergebnis[0];
             plan.toreGast[i] = ergebnis[1];
-            plan.differenz[i] = minus16(ergebnis[0], ergebnis[1]);
+            plan.differenz[i] = auf16(std::int64_t{ergebnis[0]} - ergebnis[1], [&] {
+                return "beim Ergebnis des " + std::to_string(spiel + 1) + ". Spiels " + amSpieltag(tag);
+            });
             plan.heim[i] = static_cast<i16>(pruefeIndex(paarung[0], MaxTeams));
             plan.gast[i] = static_cast<i16>(pruefeIndex(paarung[1], MaxTeams));
         }

@@ -4,6 +4,8 @@
 #include <bitset>
 #include <cstdint>
 
+#include "fehlerort.h"
+
 namespace kalimbo {
 
 namespace {
@@ -74,11 +76,16 @@ void zaehleTabelle(Spielstand& s, const Saisonplan& plan) {
         Tabellenzeile& z = s.Tabelle[t];
         const Bilanz& h = heim[t];
         const Bilanz& a = auswaerts[t];
-        schreibe(h, z.HeimPunkte, z.HeimSiege, z.HeimUnentschieden, z.HeimNiederlagen, z.HeimTore,
-                 z.HeimGegentore);
-        schreibe(a, z.AuswPunkte, z.AuswSiege, z.AuswUnentschieden, z.AuswNiederlagen, z.AuswTore,
-                 z.AuswGegentore);
-        schreibe(h + a, z.Punkte, z.Siege, z.Unentschieden, z.Niederlagen, z.Tore, z.Gegentore);
+        try {
+            schreibe(h, z.HeimPunkte, z.HeimSiege, z.HeimUnentschieden, z.HeimNiederlagen, z.HeimTore,
+                     z.HeimGegentore);
+            schreibe(a, z.AuswPunkte, z.AuswSiege, z.AuswUnentschieden, z.AuswNiederlagen, z.AuswTore,
+                     z.AuswGegentore);
+            schreibe(h + a, z.Punkte, z.Siege, z.Unentschieden, z.Niederlagen, z.Tore, z.Gegentore);
+        } catch (const Laufzeitfehler&) {
+            throw Laufzeitfehler(Laufzeitfehler::Ueberlauf,
+                                 "in der Tabellenzeile von " + teamImText(z.Name, t));
+        }
     }
     sortiereTabelle(s.Tabelle, s.AnzTeams);
 }
@@ -95,7 +102,9 @@ void sortiereTabelle(Tabellenzeilen& tabelle, i16 anzTeams) {
         const std::size_t platz = pruefeIndex(z.Tabellenplatz, static_cast<std::size_t>(anzahl));
         if (belegt[platz]) throw Laufzeitfehler(Laufzeitfehler::Index);
         belegt[platz] = true;
-        schluessel[t] = (std::int64_t{z.Punkte} << 45) + (std::int64_t{minus16(z.Tore, z.Gegentore)} << 25) +
+        const i16 differenz = auf16(std::int64_t{z.Tore} - z.Gegentore,
+                                    [&] { return "bei der Tordifferenz von " + teamImText(z.Name, t); });
+        schluessel[t] = (std::int64_t{z.Punkte} << 45) + (std::int64_t{differenz} << 25) +
                         (std::int64_t{z.Tore} << 5) + (MaxTeams - static_cast<int>(platz));
     }
     // A team's new position is the number of teams with a greater key: the order a stable sort gives.

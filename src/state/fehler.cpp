@@ -1,5 +1,7 @@
 #include "fehler.h"
 
+#include <new>
+
 namespace kalimbo {
 
 namespace {
@@ -17,5 +19,15 @@ const char* text(Laufzeitfehler::Code code) {
 }  // namespace
 
 Laufzeitfehler::Laufzeitfehler(Code code) : std::runtime_error(text(code)), m_code(code) {}
+
+Laufzeitfehler::Laufzeitfehler(Code code, const std::string& wobei)
+    : std::runtime_error(text(code) + (" " + wobei)), m_code(code) {}
+
+std::string deutscheMeldung(const std::exception& e) {
+    if (dynamic_cast<const Laufzeitfehler*>(&e) || dynamic_cast<const Dateifehler*>(&e)) return e.what();
+    if (dynamic_cast<const std::bad_alloc*>(&e))
+        return "Nicht genug Arbeitsspeicher; der Vorgang wurde abgebrochen.";
+    return "Unerwarteter Fehler im Programm; der Vorgang wurde abgebrochen.";
+}
 
 }  // namespace kalimbo

@@ -13,6 +13,9 @@ class Laufzeitfehler : public std::runtime_error {
     enum Code : int { Ueberlauf = 6, Index = 9, DivisionDurchNull = 11 };
 
     explicit Laufzeitfehler(Code code);
+    // With a German phrase naming what the error concerns, appended to the text:
+    // "Überlauf" + " bei den Gesamtpunkten von Spieler 2 („Bernd“)".
+    Laufzeitfehler(Code code, const std::string& wobei);
     Code code() const { return m_code; }
 
   private:
@@ -25,5 +28,10 @@ class Dateifehler : public std::runtime_error {
   public:
     explicit Dateifehler(const std::string& meldung) : std::runtime_error(meldung) {}
 };
+
+// The German message for any exception that ends an operation: the text of the game's own errors;
+// for a lack of memory and for failures of the libraries underneath, whose texts are English,
+// a German sentence instead.
+std::string deutscheMeldung(const std::exception& e);
 
 }  // namespace kalimbo

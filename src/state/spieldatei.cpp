@@ -1,7 +1,6 @@
 #include "spieldatei.h"
 
 #include <fstream>
-#include <iterator>
 
 #include "dateifelder.h"
 #include "dateischreiben.h"
@@ -37,6 +36,15 @@ void pruefeGrenzen(const Dateiinhalt& d) {
             }
 }
 
+// The largest game file: every text at its 16-bit maximum. Bytes that an older, longer file left
+// behind the end of a shorter one never take a file past this size.
+std::size_t groessteSpieldatei() {
+    const Dateiinhalt leer;
+    datei::Groesstmass mass;
+    besucheFelder(leer, mass);
+    return mass.ergebnis();
+}
+
 [[noreturn]] void beschaedigt(const std::string& name, const std::string& grund) {
     throw Dateifehler("Die Datei „" + name + "“ ist beschädigt oder keine Tippspiel-Datei: " + grund);
 }
@@ -44,11 +52,15 @@ void pruefeGrenzen(const Dateiinhalt& d) {
 }  // namespace
 
 Dateiinhalt leseSpieldatei(std::istream& ein, const std::string& name) {
-    const std::string daten{std::istreambuf_iterator<char>(ein), std::istreambuf_iterator<char>()};
-    if (ein.bad()) throw Dateifehler("Die Datei „" + name + "“ konnte nicht gelesen werden.");
+    static const std::size_t hoechstens = groessteSpieldatei();
+    const datei::Anfang anfang = datei::leseAnfang(ein, hoechstens, name);
+    if (anfang.mehr) {
+        beschaedigt(name, "sie ist größer als jede Tippspiel-Datei (höchstens " + std::to_string(hoechstens) +
+                              " Bytes).");
+    }
     Dateiinhalt inhalt;
     try {
-        datei::Leser leser(daten);
+        datei::Leser leser(anfang.bytes);
         besucheFelder(inhalt, leser);
         pruefeGrenzen(inhalt);
     } catch (const datei::DatenEnde&) {

@@ -12,8 +12,10 @@ namespace kalimbo {
 // Windows-1252 bytes, multi-dimensional arrays with the first index varying fastest. No header.
 
 // Reads a game file. Bytes after the last field are ignored. Throws Dateifehler naming `name`
-// when the data end early, a string length is negative, a count lies outside the fixed limits
-// or a pairing names a team outside 0..19. Nothing outside the returned value is touched.
+// when the data end early, a string length is negative, a count lies outside the fixed limits,
+// a pairing names a team outside 0..19, or the stream holds more bytes than the largest game file
+// can have (every text at 32767 bytes): no more than that is ever read, so an endless source
+// cannot fill the memory. Nothing outside the returned value is touched.
 Dateiinhalt leseSpieldatei(std::istream& ein, const std::string& name);
 
 // Opens and reads the file at `pfad`; a missing or unreadable file is a Dateifehler too.

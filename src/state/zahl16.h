@@ -21,6 +21,14 @@ constexpr i16 auf16(std::int64_t wert) {
     return static_cast<i16>(wert);
 }
 
+// The same for a figure an error message can name: `wobei()` gives the phrase (see
+// Laufzeitfehler), built only when the value overflows.
+template <class Wobei>
+i16 auf16(std::int64_t wert, Wobei wobei) {
+    if (wert < INT16_MIN || wert > INT16_MAX) throw Laufzeitfehler(Laufzeitfehler::Ueberlauf, wobei());
+    return static_cast<i16>(wert);
+}
+
 constexpr i16 plus16(i16 a, i16 b) {
     return auf16(std::int64_t{a} + b);
 }

@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 #include "cli/lauf.h"
 #include "cli/tabellen.h"
+#include "speicher.h"
 #include "state/spieldatei.h"
 #include "testdaten.h"
 
@@ -57,6 +60,16 @@ TEST(Cli, FehlerUndFalscherAufruf) {
         EXPECT_EQ(l.code, 2);
         EXPECT_NE(l.fehler.find("Aufruf: kalimbo-cli"), std::string::npos);
     }
+}
+
+TEST(Cli, AuchOhneSpeicherEineDeutscheMeldung) {
+    test::TempOrdner ordner;
+    const std::vector<std::string> aufruf{"info", (ordner / "spiel.tip").string()};
+    speichereSpieldatei(aufruf[1], Dateiinhalt{});
+    std::ostringstream aus, fehler;
+    test::naechsteAnforderungScheitert = true;
+    EXPECT_EQ(fuehreAus(aufruf, aus, fehler), 1);
+    EXPECT_EQ(fehler.str(), "Fehler: Nicht genug Arbeitsspeicher; der Vorgang wurde abgebrochen.\n");
 }
 
 class TabelleEchteSaison : public testing::TestWithParam<const char*> {};
@@ -150,7 +163,7 @@ TEST(Cli, AuswertungMitFehlern) {
     const Lauf ueberlauf = starte({"spieler", spiel});
     EXPECT_EQ(ueberlauf.code, 1);
     EXPECT_EQ(ueberlauf.aus, "");
-    EXPECT_EQ(ueberlauf.fehler, "Fehler: Überlauf\n");
+    EXPECT_EQ(ueberlauf.fehler, "Fehler: Überlauf bei den Punkten von Spieler 1 („Anna“) am 1. Spieltag\n");
     EXPECT_EQ(starte({"tabelle", (ordner / "fehlt.tip").string()}).code, 1);
 
     for (const std::vector<std::string>& aufruf :

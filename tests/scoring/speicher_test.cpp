@@ -1,5 +1,5 @@
 // The evaluation runs on every goal click; it must not touch the heap. This file replaces the
-// global operator new of the test program to count allocations.
+// global operator new of the test program to count allocations (and to fail one on request).
 #include <gtest/gtest.h>
 
 #include <atomic>
@@ -8,21 +8,27 @@
 
 #include "scoring/auswahl.h"
 #include "scoring/auswertung.h"
+#include "speicher.h"
 #include "testdaten.h"
 
 namespace {
 std::atomic<long> anforderungen{0};
 }
 
+std::atomic<bool> kalimbo::test::naechsteAnforderungScheitert{false};
+
 void* operator new(std::size_t groesse) {
     anforderungen.fetch_add(1, std::memory_order_relaxed);
+    if (kalimbo::test::naechsteAnforderungScheitert.exchange(false)) throw std::bad_alloc();
     if (void* p = std::malloc(groesse == 0 ? 1 : groesse)) return p;
     throw std::bad_alloc();
 }
-void operator delete(void* p) noexcept {
+// Not inlined: gcc would otherwise see free() on what operator new returned and warn of a mismatch
+// (-Wmismatched-new-delete), not knowing that this operator new takes its memory from malloc().
+[[gnu::noinline]] void operator delete(void* p) noexcept {
     std::free(p);
 }
-void operator delete(void* p, std::size_t) noexcept {
+[[gnu::noinline]] void operator delete(void* p, std::size_t) noexcept {
     std::free(p);
 }
 

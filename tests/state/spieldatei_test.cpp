@@ -7,6 +7,7 @@
 #include <csignal>
 #include <sstream>
 
+#include "state/dateifelder.h"
 #include "testdaten.h"
 
 namespace kalimbo {
@@ -103,6 +104,56 @@ TEST(Spieldatei, JedeVerkuerzteDateiWirdAbgelehntUndDasSpielBleibt) {
 TEST(Spieldatei, AngehaengteBytesWerdenIgnoriert) {
     const Dateiinhalt original = volleDatei();
     EXPECT_EQ(lies(kodiereSpieldatei(original) + "Reste einer älteren, längeren Datei"), original);
+}
+
+// Delivers `anzahl` zero bytes, counting what is taken.
+class Nullen : public std::streambuf {
+  public:
+    explicit Nullen(std::size_t anzahl) : m_rest(anzahl) {}
+    std::size_t geliefert = 0;
+
+  protected:
+    int_type underflow() override {
+        if (m_rest == 0) return traits_type::eof();
+        const std::size_t n = std::min(m_puffer.size(), m_rest);
+        m_rest -= n;
+        geliefert += n;
+        setg(m_puffer.data(), m_puffer.data(), m_puffer.data() + n);
+        return 0;
+    }
+
+  private:
+    std::array<char, 4096> m_puffer{};
+    std::size_t m_rest;
+};
+
+TEST(Spieldatei, HoechstensSoVielWieDieGroessteSpieldateiWirdGelesen) {
+    struct LangeTexte {
+        void zahl(i16&) {}
+        void farbe(Farbe&) {}
+        void text(std::string& s) { s.assign(32767, 'a'); }
+    } lang;
+    Dateiinhalt groesste;
+    datei::besucheFelder(groesste, lang);
+    const std::string bytes = kodiereSpieldatei(groesste);
+    EXPECT_EQ(lies(bytes), groesste);
+    const std::string meldung =
+        "Die Datei „test.tip“ ist beschädigt oder keine Tippspiel-Datei: sie ist größer als jede "
+        "Tippspiel-Datei (höchstens " +
+        std::to_string(bytes.size()) + " Bytes).";
+    try {
+        lies(bytes + '\0');
+        ADD_FAILURE();
+    } catch (const Dateifehler& e) {
+        EXPECT_EQ(e.what(), meldung);
+    }
+
+    // 50 MB of zeros would read as a game with empty texts; it is refused after reading no more
+    // than the largest game file (and the next piece).
+    Nullen nullen(50'000'000);
+    std::istream ein(&nullen);
+    EXPECT_THROW(leseSpieldatei(ein, "test.tip"), Dateifehler);
+    EXPECT_LE(nullen.geliefert, bytes.size() + 65536);
 }
 
 TEST(Spieldatei, UngueltigeZahlenWerdenAbgelehnt) {

@@ -1,7 +1,5 @@
 #include "fehlergrenze.h"
 
-#include <new>
-
 #include "state/fehler.h"
 #include "ui/bausteine/dialoge.h"
 
@@ -12,9 +10,7 @@ QString fehlermeldung(const std::exception& fehler) {
         return QStringLiteral("Laufzeitfehler '%1':\n\n%2")
             .arg(laufzeit->code())
             .arg(QString::fromUtf8(fehler.what()));
-    if (dynamic_cast<const std::bad_alloc*>(&fehler))
-        return QStringLiteral("Nicht genügend Arbeitsspeicher.");
-    return QString::fromUtf8(fehler.what());
+    return QString::fromStdString(deutscheMeldung(fehler));
 }
 
 void fangeFehler(QWidget* eltern, Dialoge& dialoge, const std::function<void()>& handler) {

@@ -10,8 +10,9 @@ namespace kalimbo::ui {
 
 class Dialoge;
 
-// The German text shown for an error of the core: a runtime error with its number
-// ("Laufzeitfehler '6':" and its text), a file error with its own message.
+// The German text shown for an error: a runtime error with its number ("Laufzeitfehler '6':" and
+// its text), a file error with its own message, anything else (a lack of memory, a failure in a
+// library) with a German sentence, never the library's English text.
 QString fehlermeldung(const std::exception& fehler);
 
 // Runs one event handler. An error thrown by the core ends the handler and is shown in a message
