@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 #include <sstream>
 
 #include "utf8.h"
@@ -51,6 +52,7 @@ std::vector<Zeichen> kennwoerter(const std::string& name) {
     std::string wort;
     while (ein >> wort) {
         const Zeichen w = dekodiere(wort);
+        if (w.empty()) continue;  // nothing but bytes that are not UTF-8
         const bool abkuerzung =
             w.back() == '.' || std::any_of(w.begin() + 1, w.end(), [](char32_t c) { return istGross(c); });
         Zeichen buchstaben;
@@ -76,6 +78,31 @@ std::map<Zeichen, std::vector<std::size_t>> gruppen(std::size_t anzahl, F kandid
     for (std::size_t i = 0; i < anzahl; ++i)
         g[kandidat(i)].push_back(i);
     return g;
+}
+
+// Gives every name that is still not unique, in team order, the first free name made of its first
+// letters and a number: "BLA1" … "BLA9", "BL10" … "BL99", "B100" …; never one already in use. The
+// names so far are made of letters only, so a numbered one can only meet another numbered one.
+void nummeriereDoppelte(std::vector<Zeichen>& kurz) {
+    std::map<Zeichen, int> anzahl;
+    for (const auto& k : kurz)
+        ++anzahl[k];
+    std::set<Zeichen> vergeben;
+    for (const auto& k : kurz)
+        if (anzahl[k] == 1) vergeben.insert(k);
+    for (auto& k : kurz) {
+        if (anzahl[k] == 1) continue;
+        const Zeichen stamm = k.substr(0, 3);
+        for (int nummer = 1;; ++nummer) {
+            const std::string ziffern = std::to_string(nummer);
+            Zeichen kandidat = stamm.substr(0, ziffern.size() < 4 ? 4 - ziffern.size() : 0);
+            kandidat.append(ziffern.begin(), ziffern.end());
+            if (vergeben.insert(kandidat).second) {
+                k = kandidat;
+                break;
+            }
+        }
+    }
 }
 
 }  // namespace
@@ -110,10 +137,7 @@ std::vector<std::string> kurznamen(const std::vector<std::string>& namen) {
         }
         return kurz[i];
     });
-    entzerre([&](std::size_t i, const std::vector<std::size_t>& teams) {
-        const auto nummer = std::find(teams.begin(), teams.end(), i) - teams.begin() + 1;
-        return kurz[i].substr(0, 3) + static_cast<char32_t>('0' + nummer % 10);
-    });
+    nummeriereDoppelte(kurz);
 
     std::vector<std::string> ergebnis;
     for (const auto& k : kurz)

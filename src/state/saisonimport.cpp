@@ -8,6 +8,7 @@
 #include <set>
 #include <vector>
 
+#include "cp1252.h"
 #include "kurznamen.h"
 
 namespace kalimbo {
@@ -105,6 +106,17 @@ std::vector<Zeile> leseZeilen(std::istream& csv) {
     return zeilen;
 }
 
+// Refuses a text that a game file cannot store: not UTF-8, a character outside Windows-1252, or
+// longer than 32767 bytes. `wo` prefixes the message ("Zeile 7: ").
+void pruefeSpeicherbar(const std::string& text, const std::string& wo) {
+    try {
+        if (nachCp1252(text).size() > 32767)
+            throw Dateifehler("Der Text „" + text.substr(0, 40) + "…“ ist zu lang für eine Tippspiel-Datei.");
+    } catch (const Dateifehler& e) {
+        throw Dateifehler(wo + e.what());
+    }
+}
+
 // Team names in order of first appearance, at most 20.
 std::vector<std::string> teamsDerSaison(const std::vector<Zeile>& zeilen) {
     std::vector<std::string> teams;
@@ -115,6 +127,7 @@ std::vector<std::string> teamsDerSaison(const std::vector<Zeile>& zeilen) {
                 fehlerInZeile(
                     z.nummer,
                     "„" + *name + "“ ist die 21. Mannschaft; eine Tippspiel-Datei fasst höchstens 20.");
+            pruefeSpeicherbar(*name, "Zeile " + std::to_string(z.nummer) + ": ");
             teams.push_back(*name);
         }
     }
@@ -140,6 +153,7 @@ Feld<Farbe, MaxTeams> tabellenfarben(int anzahlTeams) {
 }
 
 Dateiinhalt importiereSaison(std::istream& csv, const std::string& ligaInfo) {
+    pruefeSpeicherbar(ligaInfo, "Die Liga-Angabe: ");
     const std::vector<Zeile> zeilen = leseZeilen(csv);
     const std::vector<std::string> teams = teamsDerSaison(zeilen);
     const int anzahl = static_cast<int>(teams.size());

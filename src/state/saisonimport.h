@@ -11,8 +11,9 @@ namespace kalimbo {
 // matchday 1-based, goals empty for matches not yet played): teams in order of first appearance
 // with unique short names, the pairings of every matchday, the results into the file copy,
 // table colours for the usual positions, `ligaInfo` as the league line, defaults for the rest.
-// The season must be a double round robin of 18 or 20 teams; otherwise throws Dateifehler
-// saying which line (or which matchday) is wrong.
+// The season must be a double round robin of 18 or 20 teams, and every name and `ligaInfo` text
+// that a game file can store; otherwise throws Dateifehler saying which line (or which matchday)
+// is wrong. What it returns can always be saved.
 Dateiinhalt importiereSaison(std::istream& csv, const std::string& ligaInfo);
 
 // Table colours of an 18- or 20-team league by position: champion, Champions League,

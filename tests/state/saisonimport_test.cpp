@@ -114,6 +114,27 @@ TEST(Saisonimport, FehlerNennenDieZeile) {
               "Zeile 1: Die Kopfzeile muss „matchday,home,away,home_goals,away_goals“ lauten.");
 }
 
+TEST(Saisonimport, NurTexteDieEineTippspielDateiSpeichernKann) {
+    const std::string kopf = "matchday,home,away,home_goals,away_goals";
+    EXPECT_EQ(
+        importFehler({kopf, "1,A,B,1,0", "1,Łódź,C,0,0"}),
+        "Zeile 3: Der Text „Łódź“ enthält das Zeichen „Ł“ (U+0141), das eine Tippspiel-Datei nicht speichern "
+        "kann. Bitte ersetzen Sie es.");
+    EXPECT_EQ(importFehler({kopf, "1,A,\xFF\xFE,1,0"}),
+              "Zeile 2: Der Text „\xFF\xFE“ ist kein gültiger UTF-8-Text und kann nicht gespeichert werden.");
+    EXPECT_EQ(importFehler({kopf, "1,A," + std::string(40000, 'b') + ",1,0"}),
+              "Zeile 2: Der Text „" + std::string(40, 'b') + "…“ ist zu lang für eine Tippspiel-Datei.");
+    std::istringstream ein(kopf + "\n1,A,B,1,0\n");
+    try {
+        importiereSaison(ein, "Ekstraklasa Łódź");
+        FAIL();
+    } catch (const Dateifehler& e) {
+        EXPECT_EQ(std::string(e.what()),
+                  "Die Liga-Angabe: Der Text „Ekstraklasa Łódź“ enthält das Zeichen „Ł“ (U+0141), das eine "
+                  "Tippspiel-Datei nicht speichern kann. Bitte ersetzen Sie es.");
+    }
+}
+
 TEST(Saisonimport, KeineDoppelteRundeWirdAbgelehnt) {
     auto zeilen = csvZeilen(test::Saison18);
     // The return match of line 2 (Gladbach at home against Bayern) played as a second home match.
