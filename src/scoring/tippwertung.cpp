@@ -101,7 +101,9 @@ void werteTippsAus(Spielstand& s, const Saisonplan& plan, int spielerNr) {
         const i16 differenz = static_cast<i16>(heim - aus);  // wraps on overflow, caught by the sign test
         const i16 gewertet = plan.gewertet[i];
         ueberlauf |= differenzUebergelaufen(gewertet, heim, aus, differenz);
-        const bool komplett = (heim == plan.toreHeim[i]) & (aus == plan.toreGast[i]);
+        // & rather than &&: both sides are evaluated anyway, and no branch keeps the loop vectorised.
+        const bool komplett =
+            static_cast<int>(heim == plan.toreHeim[i]) & static_cast<int>(aus == plan.toreGast[i]);
         korrekt[i] = static_cast<i16>(trefferart(komplett, differenz, plan.differenz[i]) | ~gewertet);
     }
     const auto spieler = [&] { return spielerImText(s, spielerNr); };
