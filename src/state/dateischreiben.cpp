@@ -179,6 +179,7 @@ void synchronisiereOrdner(const fs::path& ordner) {
 }  // namespace
 
 void schreibeDateiAtomar(const fs::path& zielAngabe, std::string_view bytes) {
+    if (!zielAngabe.has_filename()) scheitern(zielAngabe, "Es fehlt der Name der Datei.");
     const fs::path ziel = zielHinterVerknuepfungen(zielAngabe);
     struct stat alt {};
     const bool vorhanden = ::stat(ziel.c_str(), &alt) == 0;

@@ -286,6 +286,8 @@ TEST(Speichern, JederFehlerNenntSeinenGrund) {
     fs::create_directory(ordner / "ordner.tip");
     EXPECT_EQ(fehlerBeimSpeichern(ordner / "fehlt" / "spiel.tip"),
               abgelehnt(ordner / "fehlt" / "spiel.tip", "Der Ordner existiert nicht."));
+    EXPECT_EQ(fehlerBeimSpeichern(ordner.pfad() / ""),
+              abgelehnt(ordner.pfad() / "", "Es fehlt der Name der Datei."));
     EXPECT_EQ(fehlerBeimSpeichern(ordner / "ordner.tip"),
               abgelehnt(ordner / "ordner.tip", "Unter diesem Namen gibt es einen Ordner."));
     // A pipe in the test folder, not a real device, which a faulty save would replace.
