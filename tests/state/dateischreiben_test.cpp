@@ -17,7 +17,6 @@
 #include <csignal>
 #include <cstdio>
 #include <functional>
-#include <map>
 
 #include "state/spieldatei.h"
 #include "testdaten.h"
@@ -304,26 +303,29 @@ TEST(Speichern, JederFehlerNenntSeinenGrund) {
 }
 
 TEST(Speichern, NachJedemFehlschlagBleibtNurDieAlteDatei) {
-    const std::vector<std::pair<std::string, std::string>> faelle{
-        {"fchmod",
-         "Die Rechte der alten Datei lassen sich nicht übertragen: Das Betriebssystem meldet Fehler Nr. 95."},
-        {"fsync", "Schreibfehler: Ein-/Ausgabefehler des Datenträgers."},
-        {"rename", "Die vorhandene Datei kann nicht ersetzt werden: Der Datenträger ist voll."},
+    struct Fall {
+        std::string aufruf;  // the call that fails
+        int fehler;          // with this error number
+        std::string grund;
     };
-    const std::map<std::string, int> fehler{{"fchmod", EOPNOTSUPP}, {"fsync", EIO}, {"rename", ENOSPC}};
-    for (const auto& [aufruf, grund] : faelle) {
+    const std::vector<Fall> faelle{
+        {"fchmod", EOPNOTSUPP,
+         "Die Rechte der alten Datei lassen sich nicht übertragen: Das Betriebssystem meldet Fehler Nr. 95."},
+        {"fsync", EIO, "Schreibfehler: Ein-/Ausgabefehler des Datenträgers."},
+        {"rename", ENOSPC, "Die vorhandene Datei kann nicht ersetzt werden: Der Datenträger ist voll."},
+    };
+    for (const Fall& f : faelle) {
         TempOrdner ordner;
         const auto ziel = ordner / "spiel.tip";
         test::schreibeBytes(ziel, "alt");
         std::string meldung;
         {
-            const Eingriff e(
-                [&](const std::string& a) { return a.starts_with(aufruf) ? fehler.at(aufruf) : 0; });
+            const Eingriff e([&](const std::string& a) { return a.starts_with(f.aufruf) ? f.fehler : 0; });
             meldung = fehlerBeimSpeichern(ziel);
         }
-        EXPECT_EQ(meldung, abgelehnt(ziel, grund));
+        EXPECT_EQ(meldung, abgelehnt(ziel, f.grund));
         EXPECT_EQ(leseBytes(ziel), "alt");
-        EXPECT_EQ(dateienIn(ordner.pfad()), std::vector<std::string>{"spiel.tip"}) << aufruf;
+        EXPECT_EQ(dateienIn(ordner.pfad()), std::vector<std::string>{"spiel.tip"}) << f.aufruf;
     }
 }
 
