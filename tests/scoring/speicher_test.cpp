@@ -23,6 +23,15 @@ void* operator new(std::size_t groesse) {
     if (void* p = std::malloc(groesse == 0 ? 1 : groesse)) return p;
     throw std::bad_alloc();
 }
+// The nothrow form too (std::stable_sort's buffer uses it), so that every operator delete below
+// frees only what malloc gave; the sanitizers' own nothrow new would not pair with free().
+void* operator new(std::size_t groesse, const std::nothrow_t&) noexcept {
+    try {
+        return operator new(groesse);
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
 // Not inlined: gcc would otherwise see free() on what operator new returned and warn of a mismatch
 // (-Wmismatched-new-delete), not knowing that this operator new takes its memory from malloc().
 [[gnu::noinline]] void operator delete(void* p) noexcept {
