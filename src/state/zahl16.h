@@ -44,4 +44,21 @@ constexpr void addiere(i16& ziel, i16 wert) {
     ziel = plus16(ziel, wert);
 }
 
+// zaehler / nenner rounded to the nearest integer, an exact half to the even neighbour (what
+// storing a quotient in a 16-bit figure does). Throws Laufzeitfehler::DivisionDurchNull for a
+// zero `nenner` and Laufzeitfehler::Ueberlauf outside 16 bits.
+constexpr i16 quotient16(i16 zaehler, i16 nenner) {
+    if (nenner == 0) throw Laufzeitfehler(Laufzeitfehler::DivisionDurchNull);
+    // With a positive divisor, floor division gives a = q * b + rest and 0 <= rest < b.
+    const std::int64_t a = nenner < 0 ? -std::int64_t{zaehler} : zaehler;
+    const std::int64_t b = nenner < 0 ? -std::int64_t{nenner} : nenner;
+    std::int64_t q = a / b, rest = a % b;
+    if (rest < 0) {
+        q -= 1;
+        rest += b;
+    }
+    if (2 * rest > b || (2 * rest == b && q % 2 != 0)) q += 1;
+    return auf16(q);
+}
+
 }  // namespace kalimbo
