@@ -8,6 +8,7 @@
 #include "aufruf.h"
 #include "berichtsbefehl.h"
 #include "bogenbefehl.h"
+#include "grafik.h"
 #include "haeufigkeitstabelle.h"
 #include "info.h"
 #include "infoblaetter.h"
@@ -140,6 +141,10 @@ const std::vector<Befehl>& befehle() {
          "vorhersage SPIEL.tip P                 zeigt die Tabelle, die die Tipps von Spieler P (0-8) "
          "ergeben",
          vorhersage},
+        {"grafik",
+         "grafik SPIEL.tip [--ansicht 0|1] [--zahlen] [--svg]\n"
+         "                                         zeichnet die Punktegrafik aller Spieltage",
+         zeigeGrafik},
     };
     return alle;
 }
