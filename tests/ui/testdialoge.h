@@ -11,17 +11,20 @@ class TestDialoge : public Dialoge {
   public:
     QStringList antworten;    // paths chosen in the next file dialogs; "" = cancelled
     QStringList titel;        // titles of the file dialogs shown
+    QStringList filter;       // their filters
     QStringList vorschlaege;  // names proposed by save dialogs
     QStringList meldungen;    // texts of the message boxes shown
     QStringList fragen;       // questions asked
     QList<bool> jaNein;       // answers to the next questions; "Nein" when none is left
 
-    QString oeffnen(QWidget*, const QString& t, const QString&) override {
+    QString oeffnen(QWidget*, const QString& t, const QString& f) override {
         titel << t;
+        filter << f;
         return antworten.isEmpty() ? QString() : antworten.takeFirst();
     }
-    QString speichern(QWidget*, const QString& t, const QString&, const QString& vorschlag) override {
+    QString speichern(QWidget*, const QString& t, const QString& f, const QString& vorschlag) override {
         titel << t;
+        filter << f;
         vorschlaege << vorschlag;
         return antworten.isEmpty() ? QString() : antworten.takeFirst();
     }
