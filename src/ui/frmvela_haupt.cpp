@@ -15,6 +15,7 @@
 #include "ui/bausteine/ligatabelle.h"
 #include "ui/bausteine/twips.h"
 #include "ui/frmdrucken.h"
+#include "ui/frmgrafik.h"
 #include "ui/frmhaeufigkeiten.h"
 #include "ui/frmregel.h"
 #include "ui/frmsimulation.h"
@@ -143,6 +144,7 @@ void frmVela_Haupt::verbindeMenue() {
     verbinde(m.menHaeufigkeiten, [this] { zeigeFenster(m_frmHaeufigkeiten); });
     verbinde(m.menDrucken, [this] { zeigeFenster(m_frmDrucken); });
     verbinde(m.menSimulation, [this] { zeigeFenster(m_frmSimulation); });
+    verbinde(m.menGrafik, [this] { menGrafik_Click(); });
     verbinde(m.menUeber, [this] { menUeber_Click(); });
     connect(m.menNormal, &QAction::triggered, this, [this] { m_menue.menNormal->setChecked(true); });
     // Strg+Bild auf/ab show the matchday before or after the one shown.
@@ -262,6 +264,15 @@ template <class Fenster>
 void frmVela_Haupt::zeigeFenster(Fenster*& fenster) {
     if (!fenster) fenster = new Fenster(this, m_dialoge);
     fenster->zeige(m_spiel);
+}
+
+void frmVela_Haupt::menGrafik_Click() {
+    if (!m_frmGrafik) {
+        m_frmGrafik = new frmGrafik(this, m_dialoge);
+        m_frmGrafik->setFirstLoad(true);
+    }
+    m_frmGrafik->setSpieltage(m_spiel.getAnzSpieltage());
+    m_frmGrafik->zeige(m_spiel);
 }
 
 void frmVela_Haupt::menUeber_Click() {

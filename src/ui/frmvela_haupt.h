@@ -17,6 +17,7 @@ class frmDrucken;
 class frmHaeufigkeiten;
 class frmRegel;
 class frmSimulation;
+class frmGrafik;
 class frmSpieler;
 class frmUeber;
 class Infobox;
@@ -68,6 +69,7 @@ class frmVela_Haupt : public QMainWindow {
     frmHaeufigkeiten* m_frmHaeufigkeiten = nullptr;
     frmDrucken* m_frmDrucken = nullptr;
     frmSimulation* m_frmSimulation = nullptr;
+    frmGrafik* m_frmGrafik = nullptr;
     frmUeber* m_frmUeber = nullptr;
 
     void baueFenster();
@@ -92,6 +94,7 @@ class frmVela_Haupt : public QMainWindow {
     void lblTeam_Click(int spiel, int seite);
     void lblSpieler_Click(int spieler);
     void lblTabName_Click(int zeile);
+    void menGrafik_Click();
     void menUeber_Click();
     // Shows a window that only reads the game, created on first use and kept.
     template <class Fenster>

@@ -309,8 +309,7 @@ class FrmGrafikTest : public ui::test::FensterTest<frmGrafik> {
         kind<QAction>("menSpeichern")->trigger();
         QCOMPARE(dialoge->meldungen,
                  QStringList{"Die Datei „" + pfad +
-                             "“ konnte nicht gespeichert werden: Der Ordner existiert nicht "
-                             "oder ist schreibgeschützt."});
+                             "“ konnte nicht gespeichert werden: Der Ordner existiert nicht."});
         dialoge->meldungen.clear();
         QVERIFY(!QFile::exists(pfad));
         QVERIFY(fenster->isVisible());

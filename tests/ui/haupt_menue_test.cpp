@@ -212,6 +212,10 @@ class HauptMenueTest : public QObject {
             << QStringLiteral("menHäufigkeiten") << QStringLiteral("frmHäufigkeiten");
         QTest::newRow("Drucken") << "menDrucken"
                                  << "frmDrucken";
+        QTest::newRow("Simulation") << "menSimulation"
+                                    << "frmSimulation";
+        QTest::newRow("Grafik") << "menGrafik"
+                                << "frmGrafik";
         QTest::newRow("Über") << QStringLiteral("menÜber") << QStringLiteral("frmÜber");
     }
     void fensterAusDemMenue() {
