@@ -39,17 +39,13 @@ std::string regelName(i16 modus);
 
 // Hit kind of a tip from whether it names the result exactly and from the two differences (home
 // minus away goals) of tip and result: 0 fully correct, 1 correct margin of a won match, 2 correct
-// tendency (a draw tipped as another draw is a tendency), -1 no hit. The evaluation scores every
-// tip of a season in one vectorised loop, so this is computed with masks instead of branches:
-// -b is all ones (-1) when b holds and 0 when not.
+// tendency (a draw tipped as another draw is a tendency), -1 no hit. Written with & rather than &&
+// so that a loop over many tips has no branches and the compiler vectorises it.
 constexpr i16 trefferart(bool komplett, i16 tippDifferenz, i16 ergebnisDifferenz) {
-    const i16 voll = -static_cast<i16>(komplett);
-    const i16 hoehe = -static_cast<i16>((tippDifferenz == ergebnisDifferenz) & (ergebnisDifferenz != 0));
-    const i16 tendenz = -static_cast<i16>(((tippDifferenz > 0) == (ergebnisDifferenz > 0)) &
-                                          ((tippDifferenz < 0) == (ergebnisDifferenz < 0)));
-    // Full and margin hits are tendency hits too; the better kind wins: 2 + hoehe is 1 for a
-    // margin hit and 2 for a plain tendency, cleared for a full hit, all ones without a tendency.
-    return static_cast<i16>(((RichtigeTendenz + hoehe) & ~voll) | ~tendenz);
+    const bool hoehe = (tippDifferenz == ergebnisDifferenz) & (ergebnisDifferenz != 0);
+    const bool tendenz =
+        ((tippDifferenz > 0) == (ergebnisDifferenz > 0)) & ((tippDifferenz < 0) == (ergebnisDifferenz < 0));
+    return komplett ? KomplettRichtig : hoehe ? RichtigeHoehe : tendenz ? RichtigeTendenz : KeinTreffer;
 }
 
 // Hit kind of one tip against the real result (goal counts as stored, 0:0 included), as

@@ -1,9 +1,6 @@
 #include "tippwertung.h"
 
-#include <algorithm>
 #include <climits>
-#include <cstring>
-#include <type_traits>
 
 #include "fehlerort.h"
 #include "regeln.h"
@@ -13,69 +10,91 @@ namespace kalimbo {
 namespace {
 
 constexpr int Plaetze = Saisonplan::Plaetze;
-static_assert(sizeof(Ergebnisse) == sizeof(std::int32_t) * MaxSpieltage * MaxSpiele);
 
-// A hit of kind k counts 1 in the bits 10k..10k+9 of a "Wertung": sums of them count the hits of
-// each kind at once. No team plays in more than 760 match slots, so no count reaches 1024.
-constexpr int Bits = 10;
-constexpr std::int32_t Maske = (1 << Bits) - 1;
+// A season of one player's tips, hit kinds or colours as one array of slots (matchday * 10 + match).
+using Tippslots = std::array<std::array<i16, 2>, Plaetze>;
+using Artslots = std::array<i16, Plaetze>;
+using Farbslots = std::array<Farbe, Plaetze>;
 
-// `dann` if the condition holds, else `sonst`, by masking rather than branching.
-template <class T>
-constexpr T waehle(bool bedingung, T dann, T sonst) {
-    return sonst ^ ((dann ^ sonst) & -static_cast<T>(bedingung));
+// A player's tips of the season by slot.
+Tippslots alsSlots(const Ergebnisse& tipps) {
+    Tippslots slots{};
+    for (int tag = 0; tag < MaxSpieltage; ++tag)
+        for (int spiel = 0; spiel < MaxSpiele; ++spiel)
+            slots[tag * MaxSpiele + spiel] = tipps[tag][spiel].werte;
+    return slots;
 }
 
-// Copies the first 380 slots into a record's matchday-by-match array of the same element type.
+// Copies the slots of the season into a record's array by matchday and match.
 template <class T>
 void kopiere(const std::array<T, Plaetze>& slots, Feld<Feld<T, MaxSpiele>, MaxSpieltage>& ziel) {
-    static_assert(std::is_trivially_copyable_v<Feld<Feld<T, MaxSpiele>, MaxSpieltage>>);
-    static_assert(sizeof ziel == sizeof(T) * MaxSpieltage * MaxSpiele);
-    std::memcpy(static_cast<void*>(&ziel), slots.data(), sizeof ziel);
+    for (int tag = 0; tag < MaxSpieltage; ++tag)
+        for (int spiel = 0; spiel < MaxSpiele; ++spiel)
+            ziel[tag][spiel] = slots[tag * MaxSpiele + spiel];
 }
 
-int treffer(std::int32_t wertung, int art) {
-    return (wertung >> (Bits * art)) & Maske;
+// Tips counted by hit kind: 0..2 the kinds, 3 the tips that hit nothing.
+using Anzahl = std::array<int, 4>;
+constexpr int OhneTreffer = 3;
+
+// The points that the hits in `anzahl` earn under `regel`, per kind and in all.
+struct Punkte {
+    std::array<i16, 3> nachArt;
+    i16 summe;
+};
+
+constexpr bool in16Bit(int wert) {
+    return wert >= INT16_MIN && wert <= INT16_MAX;
 }
 
-// Lane by lane, the points that the hits counted in `summen` earn under the rule: per kind in
-// rows 0 to 2, in all in row 3. Throws Laufzeitfehler::Ueberlauf when one leaves 16 bits, naming
-// the first such lane j with `wobei(j)`.
-template <std::size_t N, class Wobei>
-void punkteJeBahn(const std::array<std::int32_t, N>& summen, const Feld<i16, 3>& regel,
-                  std::array<std::array<std::int32_t, N>, 4>& punkte, Wobei wobei) {
-    const std::int32_t p0 = regel[0], p1 = regel[1], p2 = regel[2];
-    auto ausserhalb = [](std::int32_t x) { return (x < INT16_MIN) | (x > INT16_MAX); };
-    bool ueberlauf = false;
-    for (std::size_t j = 0; j < N; ++j) {
-        const std::int32_t a = treffer(summen[j], 0) * p0, b = treffer(summen[j], 1) * p1,
-                           c = treffer(summen[j], 2) * p2;
-        punkte[0][j] = a;
-        punkte[1][j] = b;
-        punkte[2][j] = c;
-        punkte[3][j] = a + b + c;
-        ueberlauf |= ausserhalb(a) | ausserhalb(b) | ausserhalb(c) | ausserhalb(a + b + c);
-    }
-    if (!ueberlauf) return;
-    for (std::size_t j = 0; j < N; ++j)
-        if (ausserhalb(punkte[0][j]) | ausserhalb(punkte[1][j]) | ausserhalb(punkte[2][j]) |
-            ausserhalb(punkte[3][j]))
-            throw Laufzeitfehler(Laufzeitfehler::Ueberlauf, wobei(static_cast<int>(j)));
-}
-
-// Negative when the difference of a scored tip's goals leaves 16 bits: `differenz` is heim - aus
-// wrapped to 16 bits, which has the wrong sign exactly then.
-constexpr i16 differenzUebergelaufen(i16 gewertet, i16 heim, i16 aus, i16 differenz) {
-    return static_cast<i16>(gewertet & (heim ^ aus) & (heim ^ differenz));
+// Computes the points exactly and throws Laufzeitfehler::Ueberlauf, named by `wobei()`, when one
+// of the four figures leaves 16 bits.
+template <class Wobei>
+Punkte punkte(const Anzahl& anzahl, const Feld<i16, 3>& regel, Wobei wobei) {
+    const int komplett = anzahl[KomplettRichtig] * regel[KomplettRichtig];
+    const int hoehe = anzahl[RichtigeHoehe] * regel[RichtigeHoehe];
+    const int tendenz = anzahl[RichtigeTendenz] * regel[RichtigeTendenz];
+    const int summe = komplett + hoehe + tendenz;
+    if (!(in16Bit(komplett) && in16Bit(hoehe) && in16Bit(tendenz) && in16Bit(summe)))
+        throw Laufzeitfehler(Laufzeitfehler::Ueberlauf, wobei());
+    return {{static_cast<i16>(komplett), static_cast<i16>(hoehe), static_cast<i16>(tendenz)},
+            static_cast<i16>(summe)};
 }
 
 const char* const ArtImText[3] = {"für ganz richtige Tipps", "für richtige Tordifferenzen",
                                   "für richtige Tendenzen"};
 
-// Copies the lanes, all within 16 bits, into a record's array of as many elements.
-template <std::size_t N>
-void kopiere(const std::array<std::int32_t, N>& bahnen, Feld<i16, static_cast<int>(N)>& ziel) {
-    std::copy(bahnen.begin(), bahnen.end(), ziel.begin());
+// True for a goal count whose difference with another can leave 16 bits.
+constexpr bool grosseZahl(i16 tore) {
+    return (tore < INT16_MIN / 2) | (tore > INT16_MAX / 2);
+}
+
+// The kind of hit of every tip of a season against its result, -1 where the match does not count:
+// a plain loop over all slots without a branch, which the compiler turns into vector instructions.
+// The differences are taken in 16 bits; they are exact unless a counted tip has a goal count beyond
+// half the range, which sets `grosseTore` for the caller to check them one by one.
+Artslots trefferarten(const Tippslots& tipps, const Saisonplan& plan, bool& grosseTore) {
+    Artslots arten;
+    i16 gross = 0;
+    for (int i = 0; i < Plaetze; ++i) {
+        const i16 heim = tipps[i][0], aus = tipps[i][1];
+        gross |= (plan.gewertet[i] == 1) & (grosseZahl(heim) | grosseZahl(aus));
+        const i16 art = trefferart((heim == plan.toreHeim[i]) & (aus == plan.toreGast[i]),
+                                   static_cast<i16>(heim - aus), plan.differenz[i]);
+        arten[i] = plan.gewertet[i] == 1 ? art : KeinTreffer;
+    }
+    grosseTore = gross != 0;
+    return arten;
+}
+
+// Throws the overflow of the first counted tip whose difference leaves 16 bits, if there is one.
+void pruefeDifferenzen(const Spielstand& s, const Saisonplan& plan, const Tippslots& tipps, int spieler) {
+    for (int i = 0; i < Plaetze; ++i)
+        if (plan.gewertet[i] == 1)
+            auf16(tipps[i][0] - tipps[i][1], [&] {
+                return "beim Tipp von " + spielerImText(s, spieler) + " für das " +
+                       std::to_string(i % MaxSpiele + 1) + ". Spiel " + amSpieltag(i / MaxSpiele);
+            });
 }
 
 }  // namespace
@@ -88,87 +107,74 @@ void werteTippsAus(Spielstand& s, const Saisonplan& plan, int spielerNr) {
                 a.SpielFarbe[tag][spiel] = Schaltflaechenfarbe;
         return;
     }
-    // The tips of the season, home and away goals in turn, slot by slot.
-    std::array<i16, 2 * Plaetze> tipp{};
-    std::memcpy(tipp.data(), &s.Tipp[spielerNr], sizeof(Ergebnisse));
 
-    // Both loops below run over every slot without a branch, which the compiler turns into vector
-    // instructions: 3,420 tips an evaluation in a full season. First the kind of hit, in 16 bits.
-    std::array<i16, Plaetze> korrekt;
-    i16 ueberlauf = 0;  // negative once a scored tip's difference leaves the 16-bit range
-    for (int i = 0; i < Plaetze; ++i) {
-        const i16 heim = tipp[2 * i], aus = tipp[2 * i + 1];
-        const i16 differenz = static_cast<i16>(heim - aus);  // wraps on overflow, caught by the sign test
-        const i16 gewertet = plan.gewertet[i];
-        ueberlauf |= differenzUebergelaufen(gewertet, heim, aus, differenz);
-        // & rather than &&: both sides are evaluated anyway, and no branch keeps the loop vectorised.
-        const bool komplett =
-            static_cast<int>(heim == plan.toreHeim[i]) & static_cast<int>(aus == plan.toreGast[i]);
-        korrekt[i] = static_cast<i16>(trefferart(komplett, differenz, plan.differenz[i]) | ~gewertet);
-    }
-    const auto spieler = [&] { return spielerImText(s, spielerNr); };
-    if (ueberlauf < 0) {
-        for (int i = 0; i < Plaetze; ++i) {
-            const i16 heim = tipp[2 * i], aus = tipp[2 * i + 1];
-            if (differenzUebergelaufen(plan.gewertet[i], heim, aus, static_cast<i16>(heim - aus)) < 0)
-                throw Laufzeitfehler(Laufzeitfehler::Ueberlauf, "beim Tipp von " + spieler() + " für das " +
-                                                                    std::to_string(i % MaxSpiele + 1) +
-                                                                    ". Spiel " + amSpieltag(i / MaxSpiele));
-        }
-    }
+    const Tippslots tipps = alsSlots(s.Tipp[spielerNr]);
+    bool grosseTore = false;
+    const Artslots arten = trefferarten(tipps, plan, grosseTore);
+    if (grosseTore) pruefeDifferenzen(s, plan, tipps, spielerNr);
 
-    // Then the colour and the hit as a "Wertung", in 32 bits.
     const Farbe f0 = s.ModusFarbe[0], f1 = s.ModusFarbe[1], f2 = s.ModusFarbe[2];
-    std::array<Farbe, Plaetze> farbe;
-    std::array<std::int32_t, Plaetze> wertung;
+    Farbslots farben;
     for (int i = 0; i < Plaetze; ++i) {
-        const int art = korrekt[i];
-        farbe[i] =
-            waehle(art == KomplettRichtig, f0,
-                   waehle(art == RichtigeHoehe, f1, waehle(art == RichtigeTendenz, f2, plan.ohneTreffer[i])));
-        wertung[i] =
-            (art == KomplettRichtig) | (art == RichtigeHoehe) << Bits | (art == RichtigeTendenz) << 2 * Bits;
+        const i16 art = arten[i];
+        const Farbe ohneTreffer = plan.ohneTreffer[i];
+        farben[i] = art == KomplettRichtig   ? f0
+                    : art == RichtigeHoehe   ? f1
+                    : art == RichtigeTendenz ? f2
+                                             : ohneTreffer;
     }
-    kopiere(korrekt, a.Korrekt);
-    kopiere(farbe, a.SpielFarbe);
+    kopiere(arten, a.Korrekt);
+    kopiere(farben, a.SpielFarbe);
 
-    // The points per matchday and per team, from the hits counted per matchday and per team.
+    // The hits of the counted matches by kind, per matchday and per team: a tip on a match counts
+    // for both of its teams. A matchday's counts are kept in variables rather than incremented in
+    // memory tip after tip, which would chain every tip to the one before; a team plays once a
+    // matchday, so its counters lie far apart from one tip to the next.
+    std::array<Anzahl, MaxSpieltage> amTag{};
+    std::array<Anzahl, MaxTeams> fuerTeam{};
+    for (int tag = 0; tag <= plan.letzterTag; ++tag) {
+        int komplett = 0, hoehe = 0, tendenz = 0;
+        for (int spiel = 0; spiel <= plan.letztesSpiel; ++spiel) {
+            const int i = tag * MaxSpiele + spiel;
+            if (plan.gewertet[i] != 1) continue;
+            const i16 art = arten[i];
+            komplett += art == KomplettRichtig;
+            hoehe += art == RichtigeHoehe;
+            tendenz += art == RichtigeTendenz;
+            const int fach = art == KeinTreffer ? OhneTreffer : art;
+            ++fuerTeam[plan.heim[i]][fach];
+            ++fuerTeam[plan.gast[i]][fach];
+        }
+        amTag[tag] = {komplett, hoehe, tendenz, 0};
+    }
+
     const Feld<i16, 3>& regel = s.ModusPunkte;
-    std::array<std::int32_t, MaxSpieltage> amTag{};
-    for (int tag = 0; tag <= plan.letzterTag; ++tag)
-        for (int spiel = 0; spiel < MaxSpiele; ++spiel)
-            amTag[tag] += wertung[tag * MaxSpiele + spiel];
-    std::array<std::int32_t, MaxTeams + 1> fuerTeam{};  // slots that do not count add 0 to KeinTeam
-    for (int i = 0; i < Plaetze; ++i) {
-        fuerTeam[plan.heim[i]] += wertung[i];
-        fuerTeam[plan.gast[i]] += wertung[i];
-    }
-
-    std::array<std::array<std::int32_t, MaxSpieltage>, 4> tagesPunkte;
-    punkteJeBahn(amTag, regel, tagesPunkte,
-                 [&](int tag) { return "bei den Punkten von " + spieler() + " " + amSpieltag(tag); });
-    kopiere(tagesPunkte[3], a.SpieltagPunkte);
-    std::int32_t saison = 0, gesamt = 0;
+    const auto spieler = [&] { return spielerImText(s, spielerNr); };
+    Anzahl saison{};
+    int gesamt = 0;
     for (int tag = 0; tag < MaxSpieltage; ++tag) {
-        saison += amTag[tag];
-        gesamt += tagesPunkte[3][tag];
+        a.SpieltagPunkte[tag] = punkte(amTag[tag], regel, [&] {
+                                    return "bei den Punkten von " + spieler() + " " + amSpieltag(tag);
+                                }).summe;
+        gesamt += a.SpieltagPunkte[tag];
+        for (int art = 0; art < 3; ++art)
+            saison[art] += amTag[tag][art];
     }
     a.GesamtPunkte = auf16(gesamt, [&] { return "bei den Gesamtpunkten von " + spieler(); });
     for (int art = 0; art < 3; ++art)
-        a.PunkteNachArt[art] = auf16(std::int64_t{treffer(saison, art)} * regel[art], [&] {
+        a.PunkteNachArt[art] = auf16(saison[art] * regel[art], [&] {
             return "bei den Punkten von " + spieler() + " " + ArtImText[art];
         });
-
-    std::array<std::int32_t, MaxTeams> echteTeams;
-    std::copy(fuerTeam.begin(), fuerTeam.begin() + MaxTeams, echteTeams.begin());
-    std::array<std::array<std::int32_t, MaxTeams>, 4> teamPunkte;
-    punkteJeBahn(echteTeams, regel, teamPunkte, [&](int team) {
-        return "bei den Punkten von " + spieler() + " aus Spielen von " + teamImText(s.Teamname[team], team);
-    });
-    kopiere(teamPunkte[KomplettRichtig], a.TeamPunkteKorrekt);
-    kopiere(teamPunkte[RichtigeHoehe], a.TeamPunkteDiff);
-    kopiere(teamPunkte[RichtigeTendenz], a.TeamPunkteTendenz);
-    kopiere(teamPunkte[3], a.TeamPunkte);
+    for (int team = 0; team < MaxTeams; ++team) {
+        const Punkte p = punkte(fuerTeam[team], regel, [&] {
+            return "bei den Punkten von " + spieler() + " aus Spielen von " +
+                   teamImText(s.Teamname[team], team);
+        });
+        a.TeamPunkteKorrekt[team] = p.nachArt[KomplettRichtig];
+        a.TeamPunkteDiff[team] = p.nachArt[RichtigeHoehe];
+        a.TeamPunkteTendenz[team] = p.nachArt[RichtigeTendenz];
+        a.TeamPunkte[team] = p.summe;
+    }
 }
 
 }  // namespace kalimbo
