@@ -51,7 +51,9 @@ Spielstand zufallsspiel(Zufall& z) {
             const i16 heim = wert(z, 4, ergebnisExtrem), aus = wert(z, 4, ergebnisExtrem);
             s.Ergebnis[tag][spiel] = {{heim, aus}};
             for (int p = 0; p < MaxSpieler; ++p)
-                if (z.promille(trefferQuote))
+                if (z.promille(tippExtrem))  // both goals extreme: the difference may overflow
+                    s.Tipp[p][tag][spiel] = {{wert(z, 0, 1000), wert(z, 0, 1000)}};
+                else if (z.promille(trefferQuote))
                     s.Tipp[p][tag][spiel] = {{wert(z, 3, tippExtrem), wert(z, 3, tippExtrem)}};
                 else  // the opposite tendency: no hit
                     s.Tipp[p][tag][spiel] = heim > aus ? Feld<i16, 2>{{0, 1}} : Feld<i16, 2>{{1, 0}};
