@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# Start-up to first paint, median of 20 runs each: the main window on the sample game against a
+# Start-up to first paint, median (min-max) of 20 runs each: the main window on the sample game against a
 # minimal Qt window showing text. Two figures per program: from main() on, and from the launch of
 # the process (loading Qt's libraries included). Offscreen by default; "xvfb" uses an X server.
 set -euo pipefail
 export XDG_RUNTIME_DIR="${XDG_RUNTIME_DIR:-$(mktemp -d)}"
 programm="$(dirname "$0")/../build/bench/startzeit"
-median() { sort -n | awk '{a[NR]=$1} END {print a[int((NR+1)/2)]}'; }
+median() { sort -n | awk '{a[NR]=$1} END {print a[int((NR+1)/2)] " (" a[1] "-" a[NR] ")"}'; }
 messe() {
     local ab_main="" ab_start=""
     for _ in $(seq 20); do
