@@ -64,9 +64,9 @@ Punkte punkte(const Anzahl& anzahl, const Feld<i16, 3>& regel, Wobei wobei) {
 const char* const ArtImText[3] = {"für ganz richtige Tipps", "für richtige Tordifferenzen",
                                   "für richtige Tendenzen"};
 
-// True for a goal count whose difference with another can leave 16 bits.
-constexpr bool grosseZahl(i16 tore) {
-    return (tore < INT16_MIN / 2) | (tore > INT16_MAX / 2);
+// True when the difference of the two goal counts may leave 16 bits: one is beyond half the range.
+constexpr bool differenzKannUeberlaufen(i16 heim, i16 aus) {
+    return (heim < INT16_MIN / 2) | (heim > INT16_MAX / 2) | (aus < INT16_MIN / 2) | (aus > INT16_MAX / 2);
 }
 
 // The kind of hit of every tip of a season against its result, -1 where the match does not count:
@@ -78,10 +78,12 @@ Artslots trefferarten(const Tippslots& tipps, const Saisonplan& plan, bool& gros
     i16 gross = 0;
     for (int i = 0; i < Plaetze; ++i) {
         const i16 heim = tipps[i][0], aus = tipps[i][1];
-        gross |= (plan.gewertet[i] == 1) & (grosseZahl(heim) | grosseZahl(aus));
-        const i16 art = trefferart((heim == plan.toreHeim[i]) & (aus == plan.toreGast[i]),
-                                   static_cast<i16>(heim - aus), plan.differenz[i]);
-        arten[i] = plan.gewertet[i] == 1 ? art : KeinTreffer;
+        const i16 toreHeim = plan.toreHeim[i], toreGast = plan.toreGast[i];
+        const bool gewertet = plan.gewertet[i] == 1, unsicher = differenzKannUeberlaufen(heim, aus);
+        gross |= gewertet & unsicher;
+        const i16 art = trefferart((heim == toreHeim) & (aus == toreGast), static_cast<i16>(heim - aus),
+                                   plan.differenz[i]);
+        arten[i] = gewertet ? art : KeinTreffer;
     }
     grosseTore = gross != 0;
     return arten;
