@@ -113,6 +113,7 @@ void Hauptfenster::oeffneSpiel(const Dateiinhalt& inhalt) {
 }
 
 void Hauptfenster::neuStarten() {
+    fenster.reset();  // the old run ends before the new one starts
     fenster = std::make_unique<frmVela_Haupt>(dialoge);
 }
 

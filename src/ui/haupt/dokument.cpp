@@ -31,8 +31,17 @@ Dokument::Dokument(QWidget* fenster, Dialoge& dialoge, Spielstand& spiel, const 
     m_sicherung.setSingleShot(true);
     m_sicherung.setInterval(300);
     connect(&m_sicherung, &QTimer::timeout, this, &Dokument::sichereKopie);
+    // Storing the settings syncs them to disk; a moment later keeps that out of the way of the
+    // first paint when a file is opened at start.
+    m_zuletztSchreiben.setSingleShot(true);
+    m_zuletztSchreiben.setInterval(250);
+    connect(&m_zuletztSchreiben, &QTimer::timeout, this, [this] { m_zuletzt.schreiben(); });
     m_zuletzt.laden();
     zeigeZuletzt(m_menue, m_zuletzt);
+}
+
+Dokument::~Dokument() {
+    if (m_zuletztSchreiben.isActive()) m_zuletzt.schreiben();
 }
 
 void Dokument::oeffne(const QString& angabe) {
@@ -101,6 +110,7 @@ void Dokument::setzeDatei(const QString& pfad, bool alsSpeicherziel) {
 void Dokument::merke(const QString& pfad, const QString& titel) {
     m_zuletzt.hinzufuegen(pfad, titel);
     zeigeZuletzt(m_menue, m_zuletzt);
+    m_zuletztSchreiben.start();
 }
 
 void Dokument::geaendert() {

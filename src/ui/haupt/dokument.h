@@ -29,6 +29,8 @@ class Dokument : public QObject {
     // save or a merge and into the recovery copy.
     Dokument(QWidget* fenster, Dialoge& dialoge, Spielstand& spiel, const Hauptmenue& menue,
              std::function<Spieltagseintraege()> eintraege);
+    // Stores the list of recent files if a change of it is still waiting.
+    ~Dokument() override;
 
     // Opens the game file at `pfad` (made absolute), as "Öffnen" does once the dialog has answered.
     void oeffne(const QString& pfad);
@@ -64,6 +66,7 @@ class Dokument : public QObject {
     ZuletztListe m_zuletzt;
     Wiederherstellung m_wiederherstellung;
     QTimer m_sicherung;
+    QTimer m_zuletztSchreiben;
 
     void nachDemLesen(const QString& pfad, const QString& titel, bool alsSpeicherziel);
     void setzeDatei(const QString& pfad, bool alsSpeicherziel);

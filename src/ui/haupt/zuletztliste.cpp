@@ -36,7 +36,6 @@ void ZuletztListe::hinzufuegen(const QString& pfad, const QString& titel) {
         e = {e[2], e[0], e[1]};
     else if (pfad != e[0].pfad)
         e = {Eintrag{pfad, titel}, e[0], e[1]};
-    schreiben();
 }
 
 // All six keys, the paths first, as the list has always been stored.

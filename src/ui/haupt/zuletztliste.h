@@ -19,10 +19,9 @@ class ZuletztListe {
     // Reads the six keys; a missing key reads as "".
     void laden();
     // Puts the file at the head of the list (a file already second or third moves up and keeps
-    // its stored name) and writes all six keys.
+    // its stored name); schreiben() stores it.
     void hinzufuegen(const QString& pfad, const QString& titel);
-
-  private:
+    // Writes all six keys.
     void schreiben() const;
 };
 
