@@ -16,6 +16,7 @@
 #include "ui/bausteine/farben.h"
 #include "ui/bausteine/fehlergrenze.h"
 #include "ui/bausteine/klicklabel.h"
+#include "ui/bausteine/rollflaeche.h"
 #include "ui/bausteine/twips.h"
 #include "ui/bausteine/zeichenflaeche.h"
 
@@ -49,7 +50,6 @@ frmGrafik::frmGrafik(QWidget* eltern, Dialoge& dialoge) : QMainWindow(eltern), m
     setObjectName(QStringLiteral("frmGrafik"));
     setWindowTitle(QStringLiteral("Grafische Anzeige der Tippergebnisse"));
     auto* mitte = new QWidget(this);
-    setCentralWidget(mitte);
     QFont klein = font();  // the layout is designed for a small font
     klein.setPointSizeF(7.5);
     setFont(klein);
@@ -73,8 +73,8 @@ frmGrafik::frmGrafik(QWidget* eltern, Dialoge& dialoge) : QMainWindow(eltern), m
     lblTest->hide();
     erzeugeLegende(mitte);
     erzeugeMenue();
-    resize(px(LegendeLinks + LegendeBreite + 165),
-           px(BildOben + grafik::GrafikHoehe + 120) + menuBar()->sizeHint().height());
+    setzeRollbarenInhalt(this, mitte,
+                         {px(LegendeLinks + LegendeBreite + 165), px(BildOben + grafik::GrafikHoehe + 120)});
 }
 
 std::function<void()> frmGrafik::sicher(std::function<void()> handler) {

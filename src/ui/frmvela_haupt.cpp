@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QMenuBar>
 #include <QScreen>
-#include <QScrollArea>
 
 #include "scoring/auswertung.h"
 #include "scoring/regeln.h"
@@ -13,6 +12,7 @@
 #include "ui/bausteine/elemente.h"
 #include "ui/bausteine/fehlergrenze.h"
 #include "ui/bausteine/ligatabelle.h"
+#include "ui/bausteine/rollflaeche.h"
 #include "ui/bausteine/twips.h"
 #include "ui/frmdrucken.h"
 #include "ui/frmgrafik.h"
@@ -58,10 +58,7 @@ frmVela_Haupt::frmVela_Haupt(Dialoge& dialoge, const QString& startdatei, QWidge
 
 // The content keeps its designed size; on a smaller screen it scrolls.
 void frmVela_Haupt::baueFenster() {
-    auto* flaeche = new QScrollArea(this);
-    flaeche->setFrameShape(QFrame::NoFrame);
-    auto* mitte = new QWidget(flaeche);
-    mitte->setFixedSize(px(15360), px(10875));
+    auto* mitte = new QWidget(this);
     m_wahl = new Spieltagswahl(mitte);
     m_ansicht = new Spieltagsansicht(mitte);
     m_ansicht->setGeometry(rechteck(60, 540, 15240, 4920));
@@ -72,9 +69,7 @@ void frmVela_Haupt::baueFenster() {
     m_tipptabellen->setGeometry(rechteck(6180, 5520, 3900, 5295));
     m_infobox = new Infobox(mitte);
     m_infobox->setGeometry(rechteck(10140, 5520, 5160, 5295));
-    flaeche->setWidget(mitte);
-    setCentralWidget(flaeche);
-    resize(px(15360), px(10875) + menuBar()->sizeHint().height());
+    setzeRollbarenInhalt(this, mitte, {px(15360), px(10875)});
 }
 
 std::function<void()> frmVela_Haupt::sicher(std::function<void()> handler) {

@@ -5,6 +5,9 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <memory>
@@ -101,6 +104,16 @@ class FrmGrafikTest : public ui::test::FensterTest<frmGrafik> {
         QCOMPARE(kind<Zeichenflaeche>("picHintergrund")->size(), QSize(861, 521));
         QCOMPARE(label("lblTest")->text(), QStringLiteral("39"));
         QVERIFY(label("lblTest")->isHidden());
+    }
+
+    // The window never opens larger than the screen; what does not fit scrolls.
+    void passtAufDenBildschirm() {
+        const QSize frei = fenster->screen()->availableSize();
+        QVERIFY(fenster->width() <= frei.width() && fenster->height() <= frei.height());
+        auto* flaeche = qobject_cast<QScrollArea*>(fenster->centralWidget());
+        QVERIFY(flaeche);
+        QVERIFY(flaeche->widget()->isAncestorOf(kind<Zeichenflaeche>("picHintergrund")));
+        QVERIFY(flaeche->horizontalScrollBar()->maximum() > 0);
     }
 
     void legendeZeigtTeilnehmerUndAndere() {

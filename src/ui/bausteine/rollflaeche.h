@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QSize>
+
+class QMainWindow;
+class QWidget;
+
+namespace kalimbo::ui {
+
+// Makes `inhalt`, fixed at its designed size `entwurf` (pixels), the scrolled content of
+// `fenster`'s central widget, and sizes the window to show all of it — or, on a smaller screen,
+// as much as the screen's free area allows, the rest reached by scrolling.
+void setzeRollbarenInhalt(QMainWindow* fenster, QWidget* inhalt, QSize entwurf);
+
+}  // namespace kalimbo::ui
