@@ -5,35 +5,11 @@
 #include <cstdint>
 #include <cstdlib>
 
+#include "state/maskierung.h"
+
 namespace kalimbo::grafik {
 
 namespace {
-
-std::string xml(const std::string& text) {
-    std::string aus;
-    for (const char c : text) {
-        switch (c) {
-            case '&':
-                aus += "&amp;";
-                break;
-            case '<':
-                aus += "&lt;";
-                break;
-            case '>':
-                aus += "&gt;";
-                break;
-            case '"':
-                aus += "&quot;";
-                break;
-            case '\'':
-                aus += "&apos;";
-                break;
-            default:
-                aus += c;
-        }
-    }
-    return aus;
-}
 
 // Twips as points, the shortest exact decimal (20 twips per point).
 std::string punkte(int twips) {
@@ -70,9 +46,10 @@ std::string element(const Text& t) {
     }
     const char* familie = gattung(t.schrift) == Gattung::Serifen ? "serif" : "sans-serif";
     return "<text x=\"" + n(x) + "\" y=\"" + n(t.y) + "\" fill=\"" + hexFarbe(t.farbe) +
-           "\" font-family=\"'" + xml(t.schrift) + "', " + familie + "\" font-size=\"" + n(t.groesse * 20) +
-           "\" font-weight=\"" + (t.fett ? "bold" : "normal") + "\" text-anchor=\"" + anker +
-           "\" dominant-baseline=\"text-before-edge\" xml:space=\"preserve\">" + xml(t.text) + "</text>";
+           "\" font-family=\"'" + xmlMaskiert(t.schrift) + "', " + familie + "\" font-size=\"" +
+           n(t.groesse * 20) + "\" font-weight=\"" + (t.fett ? "bold" : "normal") + "\" text-anchor=\"" +
+           anker + "\" dominant-baseline=\"text-before-edge\" xml:space=\"preserve\">" + xmlMaskiert(t.text) +
+           "</text>";
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "bogenhtml.h"
 
+#include "state/maskierung.h"
+
 namespace kalimbo {
 
 namespace {
@@ -17,32 +19,6 @@ constexpr const char* Stil =
     "tr.erste>*{border-top:3px double #000000}\n"
     "p.fuss{font-size:.8em;margin-top:2em}\n";
 
-std::string escape(const std::string& text) {
-    std::string aus;
-    for (const char c : text) {
-        switch (c) {
-            case '&':
-                aus += "&amp;";
-                break;
-            case '<':
-                aus += "&lt;";
-                break;
-            case '>':
-                aus += "&gt;";
-                break;
-            case '"':
-                aus += "&quot;";
-                break;
-            case '\'':
-                aus += "&#39;";
-                break;
-            default:
-                aus += c;
-        }
-    }
-    return aus;
-}
-
 std::string hex(Farbe farbe) {
     constexpr const char* Ziffern = "0123456789abcdef";
     std::string text = "#";
@@ -56,24 +32,24 @@ std::string hex(Farbe farbe) {
 
 std::string zelle(const Bogenzelle& z) {
     const std::string stil = z.hintergrund == Weiss ? "" : " style=\"background:" + hex(z.hintergrund) + '"';
-    return "<td class=\"zahl\"" + stil + '>' + escape(z.text) + "</td>";
+    return "<td class=\"zahl\"" + stil + '>' + xmlMaskiert(z.text) + "</td>";
 }
 
 }  // namespace
 
 std::string bogenAlsHtml(const Spieltagsbogen& b) {
     std::string h = "<!DOCTYPE html>\n<html lang=\"de\">\n<head>\n<meta charset=\"utf-8\"/>\n<title>" +
-                    escape(b.liga) + " – " + escape(b.titel) + "</title>\n<style>\n" + Stil +
-                    "</style>\n</head>\n<body>\n<h1>" + escape(b.liga) + "</h1>\n<h2>" + escape(b.titel) +
-                    " – " + escape(b.art) +
+                    xmlMaskiert(b.liga) + " – " + xmlMaskiert(b.titel) + "</title>\n<style>\n" + Stil +
+                    "</style>\n</head>\n<body>\n<h1>" + xmlMaskiert(b.liga) + "</h1>\n<h2>" +
+                    xmlMaskiert(b.titel) + " – " + xmlMaskiert(b.art) +
                     "</h2>\n<table>\n<thead>\n<tr><th class=\"heim\">Heim</th>"
                     "<th class=\"strich\"></th><th class=\"gast\">Gast</th><th class=\"zahl\">Ergebnis</th>";
     for (const auto& sp : b.spieler)
-        h += "<th class=\"zahl\" style=\"color:" + hex(sp.farbe) + "\">" + escape(sp.name) + "</th>";
+        h += "<th class=\"zahl\" style=\"color:" + hex(sp.farbe) + "\">" + xmlMaskiert(sp.name) + "</th>";
     h += "</tr>\n</thead>\n<tbody>\n";
     for (const auto& spiel : b.spiele) {
-        h += "<tr><td class=\"heim\">" + escape(spiel.heim) +
-             "</td><td class=\"strich\">–</td><td class=\"gast\">" + escape(spiel.gast) + "</td>" +
+        h += "<tr><td class=\"heim\">" + xmlMaskiert(spiel.heim) +
+             "</td><td class=\"strich\">–</td><td class=\"gast\">" + xmlMaskiert(spiel.gast) + "</td>" +
              zelle(spiel.ergebnis);
         for (const auto& tipp : spiel.tipps)
             h += zelle(tipp);
@@ -81,12 +57,12 @@ std::string bogenAlsHtml(const Spieltagsbogen& b) {
     }
     for (std::size_t r = 0; r < b.summen.size(); ++r) {
         h += std::string(r == 0 ? "<tr class=\"erste\">" : "<tr>") + "<th class=\"heim\" colspan=\"4\">" +
-             escape(b.summen[r].titel) + "</th>";
+             xmlMaskiert(b.summen[r].titel) + "</th>";
         for (const auto& wert : b.summen[r].werte)
-            h += "<td class=\"zahl\">" + escape(wert) + "</td>";
+            h += "<td class=\"zahl\">" + xmlMaskiert(wert) + "</td>";
         h += "</tr>\n";
     }
-    h += "</tbody>\n</table>\n<p class=\"fuss\">" + escape(b.fussnote) + " – " + escape(b.datum) +
+    h += "</tbody>\n</table>\n<p class=\"fuss\">" + xmlMaskiert(b.fussnote) + " – " + xmlMaskiert(b.datum) +
          "</p>\n</body>\n</html>\n";
     return h;
 }

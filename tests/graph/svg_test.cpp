@@ -47,7 +47,7 @@ TEST(Svg, DokumentMitAllenArtenVonTeilen) {
               "dominant-baseline=\"text-before-edge\" xml:space=\"preserve\">  ö</text>\n"
               "<text x=\"640\" y=\"80\" fill=\"#000000\" font-family=\"'MS Sans Serif', sans-serif\" "
               "font-size=\"180\" font-weight=\"normal\" text-anchor=\"end\" "
-              "dominant-baseline=\"text-before-edge\" xml:space=\"preserve\">&apos;r&apos;</text>\n"
+              "dominant-baseline=\"text-before-edge\" xml:space=\"preserve\">&#39;r&#39;</text>\n"
               "</svg>\n");
 }
 
