@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "state/maskierung.h"
+#include "state/spielstand.h"
 
 namespace kalimbo::grafik {
 
@@ -55,19 +56,7 @@ std::string element(const Text& t) {
 }  // namespace
 
 std::string hexFarbe(Farbe farbe) {
-    auto wert = static_cast<std::uint32_t>(farbe);
-    if (wert & 0x80000000u) {
-        switch (wert & 0xFFu) {
-            case 0x05:
-                wert = 0xFFFFFF;
-                break;
-            case 0x08:
-                wert = 0x000000;
-                break;
-            default:
-                wert = 0xF0F0F0;
-        }
-    }
+    const auto wert = static_cast<std::uint32_t>(druckfarbe(farbe));
     const char* ziffern = "0123456789ABCDEF";
     std::string hex = "#";
     for (const int verschiebung : {0, 8, 16}) {

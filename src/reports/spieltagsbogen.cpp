@@ -87,19 +87,6 @@ Spieltagsbogen erstelleBogen(const Spielstand& s, int spieltag, Bogenart art, st
     return bogen;
 }
 
-Farbe druckfarbe(Farbe farbe) {
-    const auto wert = static_cast<std::uint32_t>(farbe);
-    if (!(wert & 0x80000000u)) return farbe;
-    switch (wert & 0xFFu) {
-        case 0x05:
-            return Weiss;
-        case 0x08:
-            return rgb(0, 0, 0);
-        default:
-            return rgb(240, 240, 240);
-    }
-}
-
 std::string heutigesDatum() {
     const std::time_t jetzt = std::time(nullptr);
     std::tm zeit{};

@@ -62,10 +62,6 @@ struct Spieltagsbogen {
 // Laufzeitfehler::Index for a matchday outside 0..AnzSpieltage or a team index outside 0..19.
 Spieltagsbogen erstelleBogen(const Spielstand& s, int spieltag, Bogenart art, std::string datum);
 
-// A colour as printed: the symbolic system colours (high bit set) become their usual values,
-// button face light grey (240, 240, 240), window background white, window text black.
-Farbe druckfarbe(Farbe farbe);
-
 // Today's date as "TT.MM.JJJJ" in local time.
 std::string heutigesDatum();
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <variant>
 
@@ -20,6 +21,24 @@ constexpr i16 KeinAktuellerSpieltag = 99;
 constexpr Farbe Weiss = rgb(255, 255, 255);
 // The platform's symbolic colour of a button face: marks a tip that was not scored.
 constexpr Farbe Schaltflaechenfarbe = static_cast<Farbe>(0x8000000Fu);
+// The platform's symbolic colour of window text.
+constexpr Farbe Fenstertext = static_cast<Farbe>(0x80000008u);
+
+// A colour as printed or exported: the symbolic system colours (high bit set) as the fixed
+// colours they usually have — window background white, window text black, anything else the
+// light grey of a button face.
+constexpr Farbe druckfarbe(Farbe farbe) {
+    const auto wert = static_cast<std::uint32_t>(farbe);
+    if (!(wert & 0x80000000u)) return farbe;
+    switch (wert & 0xFFu) {
+        case 0x05:
+            return Weiss;
+        case 0x08:
+            return rgb(0, 0, 0);
+        default:
+            return rgb(240, 240, 240);
+    }
+}
 
 using Ergebnisse = Feld<Feld<Feld<i16, 2>, MaxSpiele>, MaxSpieltage>;  // matchday, match, side
 using Tipps = Feld<Ergebnisse, MaxSpieler>;                            // player, matchday, match, side

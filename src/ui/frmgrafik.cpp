@@ -27,8 +27,6 @@ namespace {
 const QString Bildfilter = QStringLiteral("Bitmap-Dateien (*.bmp)|*.bmp|Alle Dateien|*.*");
 const QString Speichertitel = QStringLiteral("Geben Sie den Namen der Datei zum Speichern ein!");
 
-constexpr Farbe Fenstertext = static_cast<Farbe>(0x80000008u);  // the system's window-text colour
-
 // Layout in twips.
 constexpr int BildLinks = 120, BildOben = 615;
 constexpr int SchalterBreite = 1800;
