@@ -207,55 +207,5 @@ TEST_F(Auswertung, UeberlaufEinerTippdifferenzNurWennGewertet) {
     EXPECT_THROW(werteAus(s, false), Laufzeitfehler);
 }
 
-// The evaluation scores a season's tips in one vectorised pass; here every tip of a full season
-// with scattered tips and results is checked against klassifiziere() and the rule, one by one.
-TEST(AuswertungGanzeSaison, StimmtMitDerEinzelwertungUeberein) {
-    Spielstand s;
-    s.oeffne(test::saison(test::Saison20));
-    unsigned zufall = 12345;
-    auto naechstes = [&]() -> i16 {  // goal counts -1..6
-        zufall = zufall * 1103515245u + 12345u;
-        return static_cast<i16>(((zufall >> 16) & 7) - 1);
-    };
-    for (int tag = 0; tag < MaxSpieltage; ++tag)
-        for (int spiel = 0; spiel < MaxSpiele; ++spiel) {
-            s.Ergebnis[tag][spiel] = {{naechstes(), naechstes()}};
-            for (int p = 0; p < MaxSpieler; ++p)
-                s.Tipp[p][tag][spiel] = {{naechstes(), naechstes()}};
-        }
-    test::setzeAuswahl(s, "0-20, 22-37");
-    s.setModus(0, 5);
-    s.Teilnehmer[6] = 0;
-    s.AktSpieltagGlobal = 30;
-    s.SonntagSpiele = {{2, 7}};
-    werteAus(s, true);
-
-    for (int p = 0; p < MaxSpieler; ++p) {
-        Feld<int, MaxTeams> teamPunkte{};
-        int gesamt = 0;
-        for (int tag = 0; tag < MaxSpieltage; ++tag) {
-            int amTag = 0;
-            for (int spiel = 0; spiel < MaxSpiele; ++spiel) {
-                const bool gewertet = p != 6 && tag != 21 && !(tag == 30 && (spiel == 2 || spiel == 7));
-                const auto& t = s.Tipp[p][tag][spiel];
-                const auto& e = s.Ergebnis[tag][spiel];
-                const i16 art = gewertet ? klassifiziere(t[0], t[1], e[0], e[1]) : KeinTreffer;
-                ASSERT_EQ(s.getKorrekt(p, tag, spiel), art) << p << '/' << tag << '/' << spiel;
-                const Farbe farbe = art >= 0 ? s.getModusFarbe(art) : gewertet ? Weiss : Schaltflaechenfarbe;
-                ASSERT_EQ(s.getSpielFarbe(p, tag, spiel), farbe) << p << '/' << tag << '/' << spiel;
-                const int punkte = art >= 0 ? s.getModusPunkte(art) : 0;
-                amTag += punkte;
-                for (const i16 team : s.Paarung[tag][spiel])
-                    teamPunkte[team] += punkte;
-            }
-            EXPECT_EQ(s.getSpieltagPunkte(p, tag), amTag) << p << '/' << tag;
-            gesamt += amTag;
-        }
-        EXPECT_EQ(s.getGesamtPunkte(p), gesamt);
-        for (int team = 0; team < MaxTeams; ++team)
-            EXPECT_EQ(s.Auswertung[p].TeamPunkte[team], teamPunkte[team]);
-    }
-}
-
 }  // namespace
 }  // namespace kalimbo
