@@ -2,14 +2,19 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <signal.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <charconv>
 #include <cstdint>
 #include <cstdio>
+#include <optional>
 #include <random>
 #include <string>
+#include <utility>
 
 #include "fehler.h"
 
@@ -69,9 +74,10 @@ fs::path zielHinterVerknuepfungen(const fs::path& pfad) {
     scheitern(pfad, grund(ELOOP));
 }
 
-// Temporary files of one target are named "." + a hash of the target's name + "-" + six random
-// letters or digits + ".tmp": short whatever the target's name, hidden, and recognisable, so that
-// a later save can remove what an interrupted one left behind.
+// Temporary files of one target are named "." + a hash of the target's name + "-" + the saving
+// process's number + "-" + six random letters or digits + ".tmp": short whatever the target's
+// name, hidden, and recognisable, so that a later save can remove what an interrupted one left
+// behind. The saving process holds a lock on its file from creating it until it has been renamed.
 std::string kennung(const fs::path& ziel) {
     std::uint64_t hash = 14695981039346656037u;  // FNV-1a
     for (const char c : ziel.filename().string())
@@ -84,12 +90,23 @@ std::string kennung(const fs::path& ziel) {
 constexpr std::string_view Endung = ".tmp";
 constexpr std::size_t Zufallszeichen = 6;
 
-bool istRest(const std::string& name, const std::string& kennung) {
-    return name.size() == kennung.size() + Zufallszeichen + Endung.size() && name.starts_with(kennung) &&
-           name.ends_with(Endung);
+// The number of the process that made the temporary file `name` of this target; none for any
+// other name.
+std::optional<pid_t> besitzer(std::string_view name, const std::string& kennung) {
+    if (!name.starts_with(kennung) || !name.ends_with(Endung)) return std::nullopt;
+    name.remove_prefix(kennung.size());
+    name.remove_suffix(Endung.size());
+    if (name.size() < Zufallszeichen + 2 || name[name.size() - Zufallszeichen - 1] != '-')
+        return std::nullopt;
+    name.remove_suffix(Zufallszeichen + 1);
+    pid_t pid = 0;
+    const auto [ende, fehler] = std::from_chars(name.data(), name.data() + name.size(), pid);
+    if (fehler != std::errc() || ende != name.data() + name.size() || pid <= 0) return std::nullopt;
+    return pid;
 }
 
-// A new temporary file beside the target, removed again unless it has been renamed.
+// A new temporary file beside the target, locked while it exists under its name, and removed
+// again unless it has been renamed.
 class TemporaereDatei {
   public:
     TemporaereDatei(const fs::path& ordner, const std::string& kennung, mode_t modus, const fs::path& ziel)
@@ -97,13 +114,18 @@ class TemporaereDatei {
         static constexpr char Zeichen[] = "abcdefghijklmnopqrstuvwxyz0123456789";
         std::random_device zufall;
         for (int versuch = 0; versuch < 100; ++versuch) {
-            std::string name = kennung;
+            std::string name = kennung + std::to_string(::getpid()) + "-";
             for (std::size_t i = 0; i < Zufallszeichen; ++i)
                 name += Zeichen[zufall() % (sizeof Zeichen - 1)];
             name += Endung;
             m_pfad = ordner / name;
             m_fd = ::open(m_pfad.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, modus);
-            if (m_fd >= 0) return;
+            if (m_fd >= 0) {
+                // Waits only while another save looks at it, to see that it is not a leftover.
+                while (::flock(m_fd, LOCK_EX) != 0 && errno == EINTR) {
+                }
+                return;
+            }
             if (errno != EEXIST) scheitern(m_ziel, grund(errno));
         }
         scheitern(m_ziel, grund(EEXIST));
@@ -111,8 +133,8 @@ class TemporaereDatei {
     TemporaereDatei(const TemporaereDatei&) = delete;
     TemporaereDatei& operator=(const TemporaereDatei&) = delete;
     ~TemporaereDatei() {
-        if (m_fd >= 0) ::close(m_fd);
         if (!m_umbenannt) ::unlink(m_pfad.c_str());
+        if (m_fd >= 0) ::close(m_fd);
     }
 
     void schreibe(std::string_view bytes) {
@@ -136,18 +158,18 @@ class TemporaereDatei {
             scheitern(m_ziel, "Die Rechte der alten Datei lassen sich nicht übertragen: " + grund(errno));
     }
 
-    // Writes the data through to the disk and closes the file.
-    void schliesse() {
+    // Writes the data through to the disk.
+    void synchronisiere() {
         if (::fsync(m_fd) != 0) scheitern(m_ziel, "Schreibfehler: " + grund(errno));
-        const int fd = m_fd;
-        m_fd = -1;
-        if (::close(fd) != 0) scheitern(m_ziel, "Schreibfehler: " + grund(errno));
     }
 
+    // Renames the file over `ziel`, then closes it, which ends the lock. The data are on the
+    // disk already, so closing cannot lose any.
     void benenneUm(const fs::path& ziel) {
         if (::rename(m_pfad.c_str(), ziel.c_str()) != 0)
             scheitern(m_ziel, "Die vorhandene Datei kann nicht ersetzt werden: " + grund(errno));
         m_umbenannt = true;
+        ::close(std::exchange(m_fd, -1));
     }
 
   private:
@@ -157,12 +179,25 @@ class TemporaereDatei {
     bool m_umbenannt = false;
 };
 
+// Whether the temporary file `name`, made by process `pid`, was left behind by a save that cannot
+// go on: nobody holds its lock, and its process is gone. A save that has just created its file
+// but not locked it yet is still running; one running on another computer holds its lock.
+bool istVerlassen(int ordnerFd, const char* name, pid_t pid) {
+    const int fd = ::openat(ordnerFd, name, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0) return false;
+    const bool frei = ::flock(fd, LOCK_EX | LOCK_NB) == 0;
+    ::close(fd);
+    return frei && ::kill(pid, 0) != 0 && errno == ESRCH;
+}
+
 // Removes the temporary files that interrupted saves of the same target left in the folder.
 void entferneReste(const fs::path& ordner, const std::string& kennung) {
     DIR* verzeichnis = ::opendir(ordner.c_str());
     if (!verzeichnis) return;
     while (const dirent* eintrag = ::readdir(verzeichnis)) {
-        if (istRest(eintrag->d_name, kennung)) ::unlinkat(::dirfd(verzeichnis), eintrag->d_name, 0);
+        const auto pid = besitzer(eintrag->d_name, kennung);
+        if (pid && istVerlassen(::dirfd(verzeichnis), eintrag->d_name, *pid))
+            ::unlinkat(::dirfd(verzeichnis), eintrag->d_name, 0);
     }
     ::closedir(verzeichnis);
 }
@@ -200,7 +235,7 @@ void schreibeDateiAtomar(const fs::path& zielAngabe, std::string_view bytes) {
     TemporaereDatei temp(ordner, k, vorhanden ? alt.st_mode & 0777 : 0666, zielAngabe);
     temp.schreibe(bytes);
     if (vorhanden) temp.uebernimmRechte(alt);
-    temp.schliesse();
+    temp.synchronisiere();
     temp.benenneUm(ziel);
     entferneReste(ordner, k);
     synchronisiereOrdner(ordner);
