@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <ostream>
+#include <sstream>
 
 #include "aufruf.h"
 #include "berichtsbefehl.h"
@@ -13,6 +13,7 @@
 #include "info.h"
 #include "infoblaetter.h"
 #include "simulation.h"
+#include "state/dateilesen.h"
 #include "state/produkt.h"
 #include "state/saisonimport.h"
 #include "state/spieldatei.h"
@@ -52,8 +53,8 @@ int neu(const std::vector<std::string>& argumente, std::ostream&) {
     const Aufruf a = zerlege(argumente, {"--liga"});
     erwarteWerte(a, 2);
     const fs::path csv = a.werte[0];
-    std::ifstream ein(csv);
-    if (!ein) throw Dateifehler("Die Datei „" + csv.string() + "“ konnte nicht geöffnet werden.");
+    // One byte beyond the limit lets the import say that the file is too large.
+    std::istringstream ein(leseDateianfang(csv, GroessteSaisondatei + 1).bytes);
     const auto liga = a.optionen.count("--liga") ? a.optionen.at("--liga") : ligaAusDateiname(csv);
     Dateiinhalt inhalt;
     try {

@@ -1,8 +1,5 @@
 #include "dateifelder.h"
 
-#include <algorithm>
-#include <istream>
-
 #include "cp1252.h"
 
 namespace kalimbo::datei {
@@ -49,32 +46,6 @@ void Schreiber::text(const std::string& s) {
 void Schreiber::bytes(std::uint32_t wert, std::size_t anzahl) {
     for (std::size_t i = 0; i < anzahl; ++i)
         m_bytes += static_cast<char>((wert >> (8 * i)) & 0xFF);
-}
-
-Anfang leseAnfang(std::istream& ein, std::size_t hoechstens, const std::string& name) {
-    // In pieces, so that a short file costs no more memory than its size.
-    constexpr std::size_t Stueck = 64 * 1024;
-    Anfang anfang;
-    while (anfang.bytes.size() < hoechstens && ein) {
-        const std::size_t alt = anfang.bytes.size();
-        anfang.bytes.resize(alt + std::min(Stueck, hoechstens - alt));
-        ein.read(anfang.bytes.data() + alt, static_cast<std::streamsize>(anfang.bytes.size() - alt));
-        anfang.bytes.resize(alt + static_cast<std::size_t>(ein.gcount()));
-    }
-    if (ein.bad()) throw Dateifehler("Die Datei „" + name + "“ konnte nicht gelesen werden.");
-    anfang.mehr = ein && ein.peek() != std::char_traits<char>::eof();
-    if (ein.bad()) throw Dateifehler("Die Datei „" + name + "“ konnte nicht gelesen werden.");
-    return anfang;
-}
-
-std::ifstream oeffneZumLesen(const std::filesystem::path& pfad) {
-    std::error_code ec;
-    std::ifstream ein(pfad, std::ios::binary);
-    if (!ein || std::filesystem::is_directory(pfad, ec)) {
-        throw Dateifehler("Die Datei „" + pfad.string() +
-                          "“ konnte nicht geöffnet werden: Sie existiert nicht oder ist nicht lesbar.");
-    }
-    return ein;
 }
 
 }  // namespace kalimbo::datei

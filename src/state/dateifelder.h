@@ -4,8 +4,6 @@
 // (which holds exactly the game file's last field). Internal to src/state.
 
 #include <cstdint>
-#include <filesystem>
-#include <fstream>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -132,18 +130,5 @@ void besucheFelder(D& d, V& v) {
     for (auto& t : d.Trainerwechsel)
         trainerdatensatz(t, v);
 }
-
-// Reads at most `hoechstens` bytes from the stream (never more, so an endless device cannot fill
-// memory). `mehr` tells whether the stream held further bytes. Throws Dateifehler naming `name`
-// when the stream fails.
-struct Anfang {
-    std::string bytes;
-    bool mehr = false;
-};
-Anfang leseAnfang(std::istream& ein, std::size_t hoechstens, const std::string& name);
-
-// Opens the file at `pfad` for binary reading. Throws Dateifehler when it is missing, not
-// readable or a folder.
-std::ifstream oeffneZumLesen(const std::filesystem::path& pfad);
 
 }  // namespace kalimbo::datei

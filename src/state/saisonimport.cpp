@@ -6,9 +6,11 @@
 #include <map>
 #include <optional>
 #include <set>
+#include <sstream>
 #include <vector>
 
 #include "cp1252.h"
+#include "dateilesen.h"
 #include "kurznamen.h"
 
 namespace kalimbo {
@@ -86,7 +88,13 @@ Zeile leseZeile(const std::string& text, int nummer) {
     return z;
 }
 
-std::vector<Zeile> leseZeilen(std::istream& csv) {
+std::vector<Zeile> leseZeilen(std::istream& ein) {
+    const Dateianfang anfang = leseDateianfang(ein, GroessteSaisondatei, "Saisondatei");
+    if (anfang.mehr) {
+        throw Dateifehler("Die Saisondatei ist größer als jede Saison (höchstens " +
+                          std::to_string(GroessteSaisondatei / (1024 * 1024)) + " MiB).");
+    }
+    std::istringstream csv(anfang.bytes);
     std::vector<Zeile> zeilen;
     std::string text;
     int nummer = 0;

@@ -1,8 +1,7 @@
 #include "spieldatei.h"
 
-#include <fstream>
-
 #include "dateifelder.h"
+#include "dateilesen.h"
 #include "dateischreiben.h"
 
 namespace kalimbo {
@@ -39,24 +38,23 @@ void pruefeGrenzen(const Dateiinhalt& d) {
 // The largest game file: every text at its 16-bit maximum. Bytes that an older, longer file left
 // behind the end of a shorter one never take a file past this size.
 std::size_t groessteSpieldatei() {
-    const Dateiinhalt leer;
-    datei::Groesstmass mass;
-    besucheFelder(leer, mass);
-    return mass.ergebnis();
+    static const std::size_t groesse = [] {
+        const Dateiinhalt leer;
+        datei::Groesstmass mass;
+        besucheFelder(leer, mass);
+        return mass.ergebnis();
+    }();
+    return groesse;
 }
 
 [[noreturn]] void beschaedigt(const std::string& name, const std::string& grund) {
     throw Dateifehler("Die Datei „" + name + "“ ist beschädigt oder keine Tippspiel-Datei: " + grund);
 }
 
-}  // namespace
-
-Dateiinhalt leseSpieldatei(std::istream& ein, const std::string& name) {
-    static const std::size_t hoechstens = groessteSpieldatei();
-    const datei::Anfang anfang = datei::leseAnfang(ein, hoechstens, name);
+Dateiinhalt ausBytes(const Dateianfang& anfang, const std::string& name) {
     if (anfang.mehr) {
-        beschaedigt(name, "sie ist größer als jede Tippspiel-Datei (höchstens " + std::to_string(hoechstens) +
-                              " Bytes).");
+        beschaedigt(name, "sie ist größer als jede Tippspiel-Datei (höchstens " +
+                              std::to_string(groessteSpieldatei()) + " Bytes).");
     }
     Dateiinhalt inhalt;
     try {
@@ -71,9 +69,14 @@ Dateiinhalt leseSpieldatei(std::istream& ein, const std::string& name) {
     return inhalt;
 }
 
+}  // namespace
+
+Dateiinhalt leseSpieldatei(std::istream& ein, const std::string& name) {
+    return ausBytes(leseDateianfang(ein, groessteSpieldatei(), name), name);
+}
+
 Dateiinhalt ladeSpieldatei(const std::filesystem::path& pfad) {
-    std::ifstream ein = datei::oeffneZumLesen(pfad);
-    return leseSpieldatei(ein, pfad.string());
+    return ausBytes(leseDateianfang(pfad, groessteSpieldatei()), pfad.string());
 }
 
 std::string kodiereSpieldatei(const Dateiinhalt& inhalt) {

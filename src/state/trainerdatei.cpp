@@ -1,8 +1,7 @@
 #include "trainerdatei.h"
 
-#include <fstream>
-
 #include "dateifelder.h"
+#include "dateilesen.h"
 
 namespace kalimbo {
 
@@ -18,17 +17,17 @@ void pruefeSpieltag(i16 spieltag, bool ende, int datensatz) {
 }
 
 std::size_t groessteTrainerdatei() {
-    datei::Groesstmass mass;
-    for (const auto& t : Trainerwechseldaten{})
-        datei::trainerdatensatz(t, mass);
-    return mass.ergebnis();
+    static const std::size_t groesse = [] {
+        datei::Groesstmass mass;
+        for (const auto& t : Trainerwechseldaten{})
+            datei::trainerdatensatz(t, mass);
+        return mass.ergebnis();
+    }();
+    return groesse;
 }
 
-}  // namespace
-
-Trainerwechseldaten leseTrainerdatei(std::istream& ein, const std::string& name) {
-    static const std::size_t hoechstens = groessteTrainerdatei();
-    const datei::Anfang anfang = datei::leseAnfang(ein, hoechstens, name);
+// The ten records from the front of `anfang`; what follows them is ignored.
+Trainerwechseldaten ausBytes(const Dateianfang& anfang, const std::string& name) {
     Trainerwechseldaten trainer;
     int datensatz = 0;
     try {
@@ -49,9 +48,14 @@ Trainerwechseldaten leseTrainerdatei(std::istream& ein, const std::string& name)
     return trainer;
 }
 
+}  // namespace
+
+Trainerwechseldaten leseTrainerdatei(std::istream& ein, const std::string& name) {
+    return ausBytes(leseDateianfang(ein, groessteTrainerdatei(), name), name);
+}
+
 Trainerwechseldaten ladeTrainerdatei(const std::filesystem::path& pfad) {
-    std::ifstream ein = datei::oeffneZumLesen(pfad);
-    return leseTrainerdatei(ein, pfad.string());
+    return ausBytes(leseDateianfang(pfad, groessteTrainerdatei()), pfad.string());
 }
 
 }  // namespace kalimbo

@@ -81,7 +81,7 @@ TEST(Zusammenfuehren, FehlerLassenDieAusgabeUnberuehrt) {
     const std::vector<Fall> faelle{
         {{"zusammenfuehren", fehlt, d.quelle, d.ausgabe},
          "Fehler: Die Datei „" + fehlt +
-             "“ konnte nicht geöffnet werden: Sie existiert nicht oder ist nicht lesbar.\n"},
+             "“ konnte nicht geöffnet werden: Sie existiert nicht.\n"},
         {{"zusammenfuehren", d.ziel, kaputt, d.ausgabe},
          "Fehler: Die Datei „" + kaputt +
              "“ ist beschädigt oder keine Tippspiel-Datei: sie endet vor dem Ende der Spieldaten.\n"},
@@ -90,7 +90,7 @@ TEST(Zusammenfuehren, FehlerLassenDieAusgabeUnberuehrt) {
              "“ ist beschädigt oder keine Tippspiel-Datei: sie endet vor dem Ende der Spieldaten.\n"},
         {{"zusammenfuehren", d.ziel, fehlt, vorhanden},
          "Fehler: Die Datei „" + fehlt +
-             "“ konnte nicht geöffnet werden: Sie existiert nicht oder ist nicht lesbar.\n"},
+             "“ konnte nicht geöffnet werden: Sie existiert nicht.\n"},
     };
     for (const Fall& f : faelle) {
         const Lauf lauf = starte(f.aufruf);

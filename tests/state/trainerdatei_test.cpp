@@ -143,7 +143,7 @@ TEST(Trainerdatei, NegativeNamenslaengeUndFehlendeDatei) {
     } catch (const Dateifehler& e) {
         EXPECT_EQ(std::string(e.what()),
                   "Die Datei „" + (ordner / "fehlt.tip").string() +
-                      "“ konnte nicht geöffnet werden: Sie existiert nicht oder ist nicht lesbar.");
+                      "“ konnte nicht geöffnet werden: Sie existiert nicht.");
     }
     test::schreibeBytes(ordner / "trainer.dat", zehnDatensaetze());
     EXPECT_EQ(ladeTrainerdatei(ordner / "trainer.dat"), lies(zehnDatensaetze()));
