@@ -54,8 +54,7 @@ int main(int argc, char** argv) {
     }
     QApplication::setStyle(QStringLiteral("Fusion"));
     kalimbo::ui::QtDialoge dialoge;
-    kalimbo::ui::frmVela_Haupt fenster(dialoge,
-                                       QStringLiteral(KALIMBO_SAMPLE_DATA "/bundesliga-2005-06.tip"));
+    kalimbo::ui::frmVela_Haupt fenster(dialoge, KALIMBO_SAMPLE_DATA "/bundesliga-2005-06.tip");
     fenster.zeigeBeimStart();
     return QApplication::exec();
 }

@@ -15,7 +15,7 @@ namespace {
 void Torklick(benchmark::State& state) {
     kalimbo::ui::QtDialoge dialoge;
     kalimbo::ui::frmVela_Haupt fenster(dialoge);
-    fenster.oeffne(QStringLiteral(KALIMBO_SAMPLE_DATA "/premier-league-2010-11.tip"));
+    fenster.oeffne(KALIMBO_SAMPLE_DATA "/premier-league-2010-11.tip");
     fenster.show();
     QApplication::processEvents();
     auto* team = fenster.findChild<QLabel*>(QStringLiteral("lblHeimTeam_0"));

@@ -32,7 +32,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("Kalimbo"));
     kalimbo::ui::ladeQtUebersetzung(app, QLocale::system());
     kalimbo::ui::QtDialoge dialoge;
-    kalimbo::ui::frmVela_Haupt fenster(dialoge, QString::fromLocal8Bit(aufruf.spiel.c_str()));
+    kalimbo::ui::frmVela_Haupt fenster(dialoge, aufruf.spiel);
     fenster.zeigeBeimStart();
     return QApplication::exec();
 }

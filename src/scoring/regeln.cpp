@@ -8,6 +8,13 @@ std::string regelName(i16 modus) {
     return "unbekannte Regel " + std::to_string(modus);
 }
 
+void setzeEigeneRegel(Spielstand& s, const EigeneRegel& regel) {
+    for (int art = 0; art < 3; ++art) {
+        s.setModus(art, regel.punkte[static_cast<std::size_t>(art)]);
+        s.setFarbeMod(art, regel.farben[static_cast<std::size_t>(art)]);
+    }
+}
+
 void waehleRegel(Spielstand& s, i16 modus) {
     if (modus == ModusEigeneRegel) {
         s.Modus = modus;

@@ -55,6 +55,15 @@ constexpr i16 klassifiziere(i16 tippHeim, i16 tippAus, i16 ergebnisHeim, i16 erg
                       minus16(ergebnisHeim, ergebnisAus));
 }
 
+// The own rule as its window hands it over: points and background colour per hit kind.
+struct EigeneRegel {
+    std::array<i16, 3> punkte;
+    std::array<Farbe, 3> farben;
+};
+
+// Writes the own rule's points and colours (setModus, setFarbeMod). Nothing is re-evaluated.
+void setzeEigeneRegel(Spielstand& s, const EigeneRegel& regel);
+
 // Makes `modus` the active rule. 0..2: Modus and the fixed rule's three points and colours;
 // 3 (own rule): only Modus, the points and colours stay as the own-rule window left them.
 // Any other value throws Laufzeitfehler::Index and changes nothing. Nothing is re-evaluated.

@@ -4,7 +4,7 @@
 
 namespace kalimbo {
 
-void uebernimmEintraege(Spielstand& spiel, const Spieltagseintraege& e) {
+bool uebernimmEintraege(Spielstand& spiel, const Spieltagseintraege& e) {
     const int tag = spiel.AktSpieltag;
     Feld<Feld<i16, 2>, MaxSpiele> ergebnis = spiel.Ergebnis[tag];
     Feld<Feld<Feld<i16, 2>, MaxSpiele>, MaxSpieler> tipp;
@@ -20,9 +20,18 @@ void uebernimmEintraege(Spielstand& spiel, const Spieltagseintraege& e) {
         t[1] = zahlAusText(e.ausTipp[i]);
     }
 
+    bool geaendert = spiel.Ergebnis[tag] != ergebnis;
     spiel.Ergebnis[tag] = ergebnis;
-    for (int p = 0; p < MaxSpieler; ++p)
+    for (int p = 0; p < MaxSpieler; ++p) {
+        geaendert = geaendert || spiel.Tipp[p][tag] != tipp[p];
         spiel.Tipp[p][tag] = tipp[p];
+    }
+    return geaendert;
+}
+
+void zaehleTor(Spieltagseintraege& eintraege, int spiel, int seite) {
+    auto& box = (seite == 0 ? eintraege.heimErgebnis : eintraege.ausErgebnis)[pruefeIndex(spiel, MaxSpiele)];
+    box = std::to_string(plus16(zahlAusText(box), 1));
 }
 
 void uebernimmAktuellenSpieltag(Spielstand& spiel, std::string_view aktuell, std::string_view sonntag0,

@@ -23,8 +23,13 @@ struct Spieltagseintraege {
 // Takes the boxes of the matchday shown (AktSpieltag) into Ergebnis (matches 0..AnzSpiele) and
 // Tipp (all 90 fields). A home tip box showing exactly "X" keeps the stored home tip; the away
 // tip is always taken. Every text is read first: a number outside the 16-bit range throws
-// Laufzeitfehler::Ueberlauf and nothing is changed.
-void uebernimmEintraege(Spielstand& spiel, const Spieltagseintraege& eintraege);
+// Laufzeitfehler::Ueberlauf and nothing is changed. Returns whether a stored value changed.
+bool uebernimmEintraege(Spielstand& spiel, const Spieltagseintraege& eintraege);
+
+// One goal more in the result box of match `spiel` for side `seite` (0 home, 1 away), counting
+// from the number the box holds (an empty box counts as 0). Throws Laufzeitfehler::Ueberlauf
+// beyond 32767, the box unchanged.
+void zaehleTor(Spieltagseintraege& eintraege, int spiel, int seite);
 
 // Takes the current matchday and the two Sunday match numbers as typed (read as numbers, stored
 // as they are: the current matchday counts from 0, 99 = none). All three are read first: a number

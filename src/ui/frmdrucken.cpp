@@ -80,14 +80,23 @@ frmDrucken::frmDrucken(QWidget* eltern, Dialoge& dialoge) : QWidget(eltern), m_d
 }
 
 void frmDrucken::zeige(const Spielstand& spiel) {
+    fuelleSpieltage(spiel, spiel.getAktSpieltag());
+    show();
+    raise();
+    activateWindow();
+}
+
+void frmDrucken::folge(const Spielstand& spiel, const Aenderung&) {
+    const int gewaehlt = cmbSpieltag->currentIndex();
+    fuelleSpieltage(spiel, gewaehlt <= spiel.getAnzSpieltage() ? gewaehlt : spiel.getAktSpieltag());
+}
+
+void frmDrucken::fuelleSpieltage(const Spielstand& spiel, int gewaehlt) {
     m_spiel = &spiel;
     cmbSpieltag->clear();
     for (int tag = 0; tag <= spiel.getAnzSpieltage(); ++tag)
         cmbSpieltag->addItem(QStringLiteral("%1. Spieltag").arg(tag + 1));
-    cmbSpieltag->setCurrentIndex(spiel.getAktSpieltag());
-    show();
-    raise();
-    activateWindow();
+    cmbSpieltag->setCurrentIndex(gewaehlt);
 }
 
 Spieltagsbogen frmDrucken::bogen() const {

@@ -5,6 +5,7 @@
 
 #include "reports/spieltagsbogen.h"
 #include "state/spielstand.h"
+#include "ui/bausteine/aenderung.h"
 
 class QComboBox;
 class QPushButton;
@@ -25,6 +26,9 @@ class frmDrucken : public QWidget {
     // Offers the matchdays of the game with the shown one chosen, keeps the kind chosen before,
     // and brings the window to the front. The game must outlive the window.
     void zeige(const Spielstand& spiel);
+    // The game changed: the matchdays of the game offered, the chosen one kept while the game has
+    // it (else the shown one), the kind kept.
+    void folge(const Spielstand& spiel, const Aenderung& art);
 
   private:
     Dialoge& m_dialoge;
@@ -34,6 +38,7 @@ class frmDrucken : public QWidget {
     std::array<QRadioButton*, 3> optArt{};  // in the order of Bogenart
     QPushButton *cmdVorschau = nullptr, *cmdDrucken = nullptr, *cmdPDF = nullptr, *cmdHTML = nullptr;
 
+    void fuelleSpieltage(const Spielstand& spiel, int gewaehlt);
     void cmdVorschau_Click();
     void cmdDrucken_Click();
     void cmdPDF_Click();

@@ -132,26 +132,33 @@ void frmGrafik::erzeugeMenue() {
     menDrucken->setObjectName(QStringLiteral("menDrucken"));
 }
 
-void frmGrafik::setSpieltage(i16 spieltage) {
-    m_spieltage = spieltage;
-}
-
-void frmGrafik::setFirstLoad(bool ersterStart) {
-    m_ersterStart = ersterStart;
-}
-
 void frmGrafik::zeige(const Spielstand& spiel) {
     m_spiel = &spiel;
     fangeFehler(this, m_dialoge, [&] {
-        if (m_ersterStart) {
-            m_ansicht = grafik::ersteAnsicht(spiel);
-            m_ersterStart = false;
-        }
+        passeUmschalterAn(spiel);
         Form_Activate();
     });
     show();
     raise();
     activateWindow();
+}
+
+void frmGrafik::folge(const Spielstand& spiel, const Aenderung&) {
+    m_spiel = &spiel;
+    passeUmschalterAn(spiel);
+    zeigeUmschalter();
+    Redraw();
+}
+
+void frmGrafik::passeUmschalterAn(const Spielstand& spiel) {
+    const grafik::Ansicht erste = grafik::ersteAnsicht(spiel);
+    for (std::size_t p = 0; p < MaxSpieler; ++p) {
+        const int slot = static_cast<int>(p);
+        if (m_teilnehmer && (*m_teilnehmer)[slot] == spiel.getTeilnehmer(slot)) continue;
+        m_ansicht.LinieZeigen[p] = erste.LinieZeigen[p];
+        m_ansicht.PunkteZeigen[p] = erste.PunkteZeigen[p];
+    }
+    m_teilnehmer = spiel.Teilnehmer;
 }
 
 bool frmGrafik::event(QEvent* ereignis) {
@@ -274,7 +281,8 @@ void frmGrafik::setzeLegende(QPoint ursprung) {
 
 void frmGrafik::Redraw() {
     if (!m_spiel) return;
-    grafik::Zeichnung zeichnung = grafik::punktegrafik(*m_spiel, m_spieltage, m_ansicht);
+    const i16 spieltage = m_spiel->getAnzSpieltage();
+    grafik::Zeichnung zeichnung = grafik::punktegrafik(*m_spiel, spieltage, m_ansicht);
     const auto zeilen = grafik::legende(*m_spiel);
     for (int p = 0; p < MaxSpieler; ++p) {
         const grafik::Legendenzeile& z = zeilen[static_cast<std::size_t>(p)];
@@ -285,7 +293,7 @@ void frmGrafik::Redraw() {
         lblSptgPunkte[p]->setText(text(z.spieltagPunkte));
     }
     if (m_ansicht.Darstellung == grafik::Gesamtpunkte)
-        lblTest->setText(QString::number(grafik::skalenspitze(*m_spiel, m_spieltage)));
+        lblTest->setText(QString::number(grafik::skalenspitze(*m_spiel, spieltage)));
     picHintergrund->setzeZeichnung(std::move(zeichnung));
 }
 

@@ -3,9 +3,11 @@
 #include <QMainWindow>
 #include <array>
 #include <functional>
+#include <optional>
 
 #include "graph/punktegrafik.h"
 #include "state/spielstand.h"
+#include "ui/bausteine/aenderung.h"
 
 class QAction;
 class QFrame;
@@ -25,13 +27,13 @@ class frmGrafik : public QMainWindow {
   public:
     frmGrafik(QWidget* eltern, Dialoge& dialoge);
 
-    // The highest matchday index drawn (the main window passes the season's).
-    void setSpieltage(i16 spieltage);
-    // With `ersterStart` set, the next zeige() sets the toggles afresh: marks for the players
-    // taking part, no printed totals. Set when the window is made.
-    void setFirstLoad(bool ersterStart);
-    // Shows the window for `spiel`, which must outlive it, drawn afresh from its state.
+    // Shows the window for `spiel`, which must outlive it, drawn afresh from its state over the
+    // season's matchdays. The first time, the toggles show the marks of the players taking part
+    // and no printed totals.
     void zeige(const Spielstand& spiel);
+    // The game changed: drawn afresh in the view shown; the toggles of the slots that took part
+    // before and still do stay as they were, the others are set as the first time.
+    void folge(const Spielstand& spiel, const Aenderung& art);
 
   protected:
     bool event(QEvent* ereignis) override;
@@ -40,9 +42,8 @@ class frmGrafik : public QMainWindow {
   private:
     Dialoge& m_dialoge;
     const Spielstand* m_spiel = nullptr;
-    i16 m_spieltage = 0;
-    bool m_ersterStart = true;
     grafik::Ansicht m_ansicht;
+    std::optional<Feld<i16, MaxSpieler>> m_teilnehmer;  // the slots taking part when last drawn
 
     Zeichenflaeche* picHintergrund = nullptr;
     std::array<KlickLabel*, 2> lblSchalt{};
@@ -67,6 +68,7 @@ class frmGrafik : public QMainWindow {
     void lblAnAus_MouseUp(QPoint punkt);
     void menSpeichern_Click();
 
+    void passeUmschalterAn(const Spielstand& spiel);
     void zeigeSchalter(int aktiv);
     void zeigeUmschalter();
     void setzeLegende(QPoint ursprung);

@@ -117,15 +117,23 @@ void frmHaeufigkeiten::erzeugeUebersicht() {
 }
 
 void frmHaeufigkeiten::zeige(const Spielstand& spiel) {
+    zeichne(spiel);
+    show();
+    raise();
+    activateWindow();
+}
+
+void frmHaeufigkeiten::folge(const Spielstand& spiel, const Aenderung&) {
+    zeichne(spiel);
+}
+
+void frmHaeufigkeiten::zeichne(const Spielstand& spiel) {
     m_spiel = &spiel;
     m_haeufigkeiten = zaehleHaeufigkeiten(spiel);
     if (m_klasse < 0) m_klasse = std::max(0, m_haeufigkeiten.haeufigstesErgebnis());
     zeigeRaster();
     zeigeUebersicht();
     zeigeAuswahl();
-    show();
-    raise();
-    activateWindow();
 }
 
 void frmHaeufigkeiten::lblErgebnis_Click(int klasse) {

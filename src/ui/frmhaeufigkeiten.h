@@ -5,6 +5,7 @@
 
 #include "reports/haeufigkeiten.h"
 #include "state/spielstand.h"
+#include "ui/bausteine/aenderung.h"
 
 class QLabel;
 class QPlainTextEdit;
@@ -26,6 +27,8 @@ class frmHaeufigkeiten : public QWidget {
     // Counts the game afresh, shows the grid and the score chosen before (at first the most
     // frequent result), and brings the window to the front. The game must outlive the window.
     void zeige(const Spielstand& spiel);
+    // The game changed: counted and drawn afresh, the chosen score kept.
+    void folge(const Spielstand& spiel, const Aenderung& art);
 
   private:
     Dialoge& m_dialoge;
@@ -43,6 +46,7 @@ class frmHaeufigkeiten : public QWidget {
     void erzeugeRaster();
     void erzeugeAuswahl();
     void erzeugeUebersicht();
+    void zeichne(const Spielstand& spiel);
     void lblErgebnis_Click(int klasse);
     void zeigeRaster();
     void zeigeUebersicht();

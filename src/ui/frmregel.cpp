@@ -120,6 +120,10 @@ void frmRegel::zeige(const Spielstand& spiel) {
     activateWindow();
 }
 
+void frmRegel::folge(const Spielstand&, const Aenderung& art) {
+    if (art.ersetzt) hide();
+}
+
 void frmRegel::lblFarbAlt_Click(int index) {
     const auto art = static_cast<std::size_t>(index / 3);
     m_gewaehlt[art] = Angebot[static_cast<std::size_t>(index % 3)];
@@ -129,13 +133,10 @@ void frmRegel::lblFarbAlt_Click(int index) {
 // All three points are read before anything is written: an empty box gives 0, a number outside
 // the 16-bit range is refused and nothing changes.
 void frmRegel::cmdOK_Click() {
-    std::array<i16, 3> punkte{};
-    for (std::size_t k = 0; k < punkte.size(); ++k)
-        punkte[k] = zahlAusText(txtNeuModus[k]->text().toStdString());
-    for (int k = 0; k < 3; ++k) {
-        emit setModus(k, punkte[static_cast<std::size_t>(k)]);
-        emit setFarbeMod(k, m_gewaehlt[static_cast<std::size_t>(k)]);
-    }
+    EigeneRegel regel{{}, m_gewaehlt};
+    for (std::size_t k = 0; k < regel.punkte.size(); ++k)
+        regel.punkte[k] = zahlAusText(txtNeuModus[k]->text().toStdString());
+    emit bestaetigt(regel);
     close();
 }
 

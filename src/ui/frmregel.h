@@ -3,7 +3,9 @@
 #include <QWidget>
 #include <array>
 
+#include "scoring/regeln.h"
 #include "state/spielstand.h"
+#include "ui/bausteine/aenderung.h"
 
 class QLineEdit;
 
@@ -23,13 +25,16 @@ class frmRegel : public QWidget {
 
     // Points and colours of the rule in force, then shows the window (without waiting for it).
     void zeige(const Spielstand& spiel);
+    // The game changed: what the user is editing stays, unless another game took the place of the
+    // one edited; then the window closes and the edits are dropped.
+    void folge(const Spielstand& spiel, const Aenderung& art);
 
     // The colours offered for the own rule; the fixed rules' red and yellow differ slightly.
     static const std::array<Farbe, 3> Angebot;
 
   signals:
-    void setModus(int art, i16 punkte);
-    void setFarbeMod(int art, Farbe farbe);
+    // "OK": the three points and colours, to be written with setModus and setFarbeMod.
+    void bestaetigt(const EigeneRegel& regel);
 
   private:
     Dialoge& m_dialoge;

@@ -144,22 +144,37 @@ void frmSimulation::erzeugeBericht() {
 }
 
 void frmSimulation::zeige(const Spielstand& spiel) {
-    m_spiel = &spiel;
     m_spieler = 0;
-    fuelleSpielerWahl();
-    fuelleTatsaechlicheTabelle();
-    wendeLayoutAn();
-    baueNeu();
+    cmbSpielerWahl->setCurrentIndex(-1);
+    zeichne(spiel);
     show();
     raise();
     activateWindow();
 }
 
+void frmSimulation::folge(const Spielstand& spiel, const Aenderung&) {
+    if (spiel.getTeilnehmer(m_spieler) != 1) m_spieler = 0;
+    zeichne(spiel);
+}
+
+void frmSimulation::zeichne(const Spielstand& spiel) {
+    m_spiel = &spiel;
+    fuelleSpielerWahl();
+    fuelleTatsaechlicheTabelle();
+    wendeLayoutAn();
+    baueNeu();
+}
+
+// The chosen player's name where he is offered; else the prompt (player 0 is shown all the same).
 void frmSimulation::fuelleSpielerWahl() {
+    const bool gewaehlt = cmbSpielerWahl->currentIndex() >= 0;
     cmbSpielerWahl->clear();
-    for (const i16 p : waehlbareSpieler(*m_spiel))
+    int eintrag = -1;
+    for (const i16 p : waehlbareSpieler(*m_spiel)) {
+        if (gewaehlt && p == m_spieler) eintrag = cmbSpielerWahl->count();
         cmbSpielerWahl->addItem(text(m_spiel->getSpielerName(p)));
-    cmbSpielerWahl->setCurrentIndex(-1);  // the prompt, although player 0 is shown
+    }
+    cmbSpielerWahl->setCurrentIndex(eintrag);
 }
 
 void frmSimulation::fuelleTatsaechlicheTabelle() {

@@ -5,6 +5,7 @@
 
 #include "scoring/tabelle.h"
 #include "state/spielstand.h"
+#include "ui/bausteine/aenderung.h"
 
 class QComboBox;
 class QFrame;
@@ -30,6 +31,9 @@ class frmSimulation : public QWidget {
     // choice of players, the real table, the layout for the league's size, the predicted table
     // and the report; then brings the window to the front. The game must outlive the window.
     void zeige(const Spielstand& spiel);
+    // The game changed: everything built afresh for the chosen player while he takes part in the
+    // game, else for player 0.
+    void folge(const Spielstand& spiel, const Aenderung& art);
 
   private:
     Dialoge& m_dialoge;
@@ -49,6 +53,7 @@ class frmSimulation : public QWidget {
     void erzeugeVorhersage();
     void erzeugeTatsaechliche();
     void erzeugeBericht();
+    void zeichne(const Spielstand& spiel);
     void fuelleSpielerWahl();
     void fuelleTatsaechlicheTabelle();
     void wendeLayoutAn();

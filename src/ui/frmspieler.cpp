@@ -95,6 +95,10 @@ void frmSpieler::zeige(const Spielstand& spiel) {
     activateWindow();
 }
 
+void frmSpieler::folge(const Spielstand&, const Aenderung& art) {
+    if (art.ersetzt) hide();
+}
+
 void frmSpieler::lblSpielerFarbe_Click(int spieler) {
     const Farbe farbe = Palette[static_cast<std::size_t>(m_farbzaehler % 16)];
     m_farben[pruefeIndex(spieler, MaxSpieler)] = farbe;

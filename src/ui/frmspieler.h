@@ -4,6 +4,7 @@
 #include <array>
 
 #include "state/spielstand.h"
+#include "ui/bausteine/aenderung.h"
 
 class QCheckBox;
 class QFrame;
@@ -28,6 +29,9 @@ class frmSpieler : public QWidget, public SpielerDatenQuelle {
     // Fills the slots from the game (names; flag and colour of the participants; the others keep
     // this window's colour) and shows the window.
     void zeige(const Spielstand& spiel);
+    // The game changed: what the user is editing stays, unless another game took the place of the
+    // one edited; then the window closes and the edits are dropped.
+    void folge(const Spielstand& spiel, const Aenderung& art);
 
     std::string getSpielerName(int spieler) const override;
     Farbe getSpielerFarbe(int spieler) const override;

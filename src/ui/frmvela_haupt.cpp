@@ -32,9 +32,7 @@
 
 namespace kalimbo::ui {
 
-namespace {}  // namespace
-
-frmVela_Haupt::frmVela_Haupt(Dialoge& dialoge, const QString& startdatei, QWidget* eltern)
+frmVela_Haupt::frmVela_Haupt(Dialoge& dialoge, const std::string& startdatei, QWidget* eltern)
     : QMainWindow(eltern), m_dialoge(dialoge) {
     setObjectName(QStringLiteral("frmVela_Haupt"));
     QFont schrift = font();  // the layout is designed for a small font
@@ -49,7 +47,7 @@ frmVela_Haupt::frmVela_Haupt(Dialoge& dialoge, const QString& startdatei, QWidge
     // A game recovered or named on the command line ends by showing its last selected matchday, so
     // matchday 0 of the empty game need not be drawn first.
     const bool wiederhergestellt = m_dokument->stelleWiederHer();
-    if (!wiederhergestellt && !startdatei.isEmpty()) oeffne(startdatei);
+    if (!wiederhergestellt && !startdatei.empty()) oeffne(startdatei);
     fangeFehler(this, m_dialoge, [&] {
         if (!wiederhergestellt && m_spiel.Dateipfad.empty()) lblSpieltagWahl_Click(0);
         lblSpieler_Click(0);
@@ -95,7 +93,8 @@ void frmVela_Haupt::verbindePanels() {
     connect(m_ansicht, &Spieltagsansicht::spielerGeklickt, this, sicherMit(&frmVela_Haupt::lblSpieler_Click));
     connect(m_blitztabelle->tabelle(), &Ligatabelle::nameGeklickt, this,
             sicherMit(&frmVela_Haupt::lblTabName_Click));
-    connect(m_ansicht, &Spieltagsansicht::bearbeitet, this, &frmVela_Haupt::geaendert);
+    connect(m_ansicht, &Spieltagsansicht::bearbeitet, m_dokument, &Dokument::geaendert);
+    connect(m_dokument, &Dokument::spielGeaendert, this, sicherMit(&frmVela_Haupt::folgeInfobox));
     connect(m_ansicht, &Spieltagsansicht::ueberlauf, this,
             [this] { m_dialoge.meldung(this, fehlermeldung(Laufzeitfehler(Laufzeitfehler::Ueberlauf))); });
     connect(m_bedienfeld, &Bedienfeld::uebernehmen, this, sicher([this] { cmdSonntag_Click(); }));
@@ -136,10 +135,10 @@ void frmVela_Haupt::verbindeMenue() {
     verbinde(m.menSpielerAe, [this] { menSpielerAe_Click(); });
     verbinde(m.menAuswerten, [this] { auswerten(QStringLiteral("---")); });
     verbinde(m.menBericht, [this] { m_infobox->exportiere(m_dialoge, m_spiel.getFussnote()); });
-    verbinde(m.menHaeufigkeiten, [this] { zeigeFenster(m_frmHaeufigkeiten); });
-    verbinde(m.menDrucken, [this] { zeigeFenster(m_frmDrucken); });
-    verbinde(m.menSimulation, [this] { zeigeFenster(m_frmSimulation); });
-    verbinde(m.menGrafik, [this] { menGrafik_Click(); });
+    verbinde(m.menHaeufigkeiten, [this] { fenster(m_frmHaeufigkeiten).zeige(m_spiel); });
+    verbinde(m.menDrucken, [this] { fenster(m_frmDrucken).zeige(m_spiel); });
+    verbinde(m.menSimulation, [this] { fenster(m_frmSimulation).zeige(m_spiel); });
+    verbinde(m.menGrafik, [this] { fenster(m_frmGrafik).zeige(m_spiel); });
     verbinde(m.menUeber, [this] { menUeber_Click(); });
     connect(m.menNormal, &QAction::triggered, this, [this] { m_menue.menNormal->setChecked(true); });
     // Strg+Bild auf/ab show the matchday before or after the one shown.
@@ -159,16 +158,12 @@ void frmVela_Haupt::zeigeBeimStart() {
         show();
 }
 
-void frmVela_Haupt::geaendert() {
-    m_dokument->geaendert();
-}
-
 void frmVela_Haupt::closeEvent(QCloseEvent* ereignis) {
     m_dokument->schliesst();
     QMainWindow::closeEvent(ereignis);
 }
 
-void frmVela_Haupt::oeffne(const QString& pfad) {
+void frmVela_Haupt::oeffne(const std::string& pfad) {
     fangeFehler(this, m_dialoge, [&] { m_dokument->oeffne(pfad); });
 }
 
@@ -213,7 +208,7 @@ void frmVela_Haupt::ShowMatchday() {
 }
 
 void frmVela_Haupt::TakeEntries() {
-    uebernimmEintraege(m_spiel, m_ansicht->eintraege());
+    if (uebernimmEintraege(m_spiel, m_ansicht->eintraege())) m_dokument->melde({.daten = true});
 }
 
 // The boxes go back to the matchday they were drawn from before another one is shown.
@@ -234,21 +229,37 @@ void frmVela_Haupt::blaettere(int schritt) {
 }
 
 void frmVela_Haupt::auswerten(const QString& anlass) {
-    TakeEntries();
-    werteAus(m_spiel, m_ansicht->sonntagsspieleAuslassen());
+    werteAusMit(m_ansicht->eintraege(), anlass, {.zahlen = true});
+}
+
+// The boxes are taken and the game evaluated in a copy; only when both succeed do the game and the
+// whole window show the new state (a failed goal click leaves its box as it was).
+void frmVela_Haupt::werteAusMit(const Spieltagseintraege& eintraege, const QString& anlass, Aenderung art) {
+    const bool sonntag = m_ansicht->sonntagsspieleAuslassen();
+    m_dokument->aendere(
+        [&](Spielstand& s) {
+            art.daten = uebernimmEintraege(s, eintraege) || art.daten;
+            werteAus(s, sonntag);
+        },
+        art);
     m_blitztabelle->zeige(m_spiel, anlass);
     ShowMatchday();
 }
 
 void frmVela_Haupt::lblTeam_Click(int spiel, int seite) {
-    m_ansicht->zaehleTor(spiel, seite);
-    geaendert();
+    Spieltagseintraege eintraege = m_ansicht->eintraege();
+    zaehleTor(eintraege, spiel, seite);
     const int team = m_spiel.getPaarung(m_spiel.getAktSpieltag(), spiel, seite);
-    auswerten(QStringLiteral("Tor für") + text(m_spiel.getTeamName(team)));
+    werteAusMit(eintraege, QStringLiteral("Tor für") + text(m_spiel.getTeamName(team)),
+                {.daten = true, .zahlen = true});
 }
 
 void frmVela_Haupt::lblSpieler_Click(int spieler) {
     m_infobox->zeigeSpieler(m_spiel, spieler);
+}
+
+void frmVela_Haupt::folgeInfobox(const Aenderung& art) {
+    m_infobox->folge(m_spiel, art);
 }
 
 void frmVela_Haupt::lblTabName_Click(int zeile) {
@@ -256,18 +267,22 @@ void frmVela_Haupt::lblTabName_Click(int zeile) {
 }
 
 template <class Fenster>
-void frmVela_Haupt::zeigeFenster(Fenster*& fenster) {
-    if (!fenster) fenster = new Fenster(this, m_dialoge);
-    fenster->zeige(m_spiel);
+Fenster& frmVela_Haupt::fenster(Fenster*& zeiger) {
+    if (zeiger) return *zeiger;
+    zeiger = new Fenster(this, m_dialoge);
+    connect(m_dokument, &Dokument::spielGeaendert, zeiger, [this, f = zeiger](const Aenderung& art) {
+        if (f->isVisible()) fangeFehler(f, m_dialoge, [&] { f->folge(m_spiel, art); });
+    });
+    verbindeFenster(zeiger);
+    return *zeiger;
 }
 
-void frmVela_Haupt::menGrafik_Click() {
-    if (!m_frmGrafik) {
-        m_frmGrafik = new frmGrafik(this, m_dialoge);
-        m_frmGrafik->setFirstLoad(true);
-    }
-    m_frmGrafik->setSpieltage(m_spiel.getAnzSpieltage());
-    m_frmGrafik->zeige(m_spiel);
+void frmVela_Haupt::verbindeFenster(frmRegel* regel) {
+    connect(regel, &frmRegel::bestaetigt, this, sicherMit(&frmVela_Haupt::uebernimmEigeneRegel));
+}
+
+void frmVela_Haupt::verbindeFenster(frmSpieler* spieler) {
+    connect(spieler, &frmSpieler::bestaetigt, this, sicher([this, spieler] { HoleSpielerDaten(*spieler); }));
 }
 
 void frmVela_Haupt::menUeber_Click() {
@@ -275,39 +290,34 @@ void frmVela_Haupt::menUeber_Click() {
     m_frmUeber->open();
 }
 
+// The boxes are taken too: the redraw below would otherwise drop what was typed.
 void frmVela_Haupt::cmdSonntag_Click() {
-    TakeEntries();  // the redraw below would otherwise drop what was typed
+    const Spieltagseintraege eintraege = m_ansicht->eintraege();
     const auto [aktuell, sonntag0, sonntag1] = m_bedienfeld->eingaben();
-    uebernimmAktuellenSpieltag(m_spiel, aktuell, sonntag0, sonntag1);
-    geaendert();
+    m_dokument->aendere(
+        [&](Spielstand& s) {
+            uebernimmEintraege(s, eintraege);
+            uebernimmAktuellenSpieltag(s, aktuell, sonntag0, sonntag1);
+        },
+        {.daten = true});
     ShowMatchday();
 }
 
 void frmVela_Haupt::menReg_Click(i16 modus) {
     waehleRegel(m_spiel, modus);
     zeigeRegelhaken(m_menue, m_spiel.Modus);
-    geaendert();
+    m_dokument->melde({.daten = true});
 }
 
 // The own rule's window is opened without waiting for it; the rule is in force at once, with the
 // points and colours of the rule before until the window is confirmed.
 void frmVela_Haupt::menRegEigene_Click() {
     menReg_Click(ModusEigeneRegel);
-    if (!m_frmRegel) {
-        m_frmRegel = new frmRegel(this, m_dialoge);
-        connect(m_frmRegel, &frmRegel::setModus, this, sicherMit(&frmVela_Haupt::setModus));
-        connect(m_frmRegel, &frmRegel::setFarbeMod, this, sicherMit(&frmVela_Haupt::setFarbeMod));
-    }
-    m_frmRegel->zeige(m_spiel);
+    fenster(m_frmRegel).zeige(m_spiel);
 }
 
 void frmVela_Haupt::menSpielerAe_Click() {
-    if (!m_frmSpieler) {
-        m_frmSpieler = new frmSpieler(this, m_dialoge);
-        connect(m_frmSpieler, &frmSpieler::bestaetigt, this,
-                sicher([this] { HoleSpielerDaten(*m_frmSpieler); }));
-    }
-    m_frmSpieler->zeige(m_spiel);
+    fenster(m_frmSpieler).zeige(m_spiel);
 }
 
 void frmVela_Haupt::zeigeAuswahl(const Auswahlergebnis& ergebnis) {
@@ -316,23 +326,17 @@ void frmVela_Haupt::zeigeAuswahl(const Auswahlergebnis& ergebnis) {
         return;
     }
     m_wahl->zeigeAuswahl(m_spiel, ergebnis.geaendert);
-    if (ergebnis.geaendert.any()) geaendert();
+    if (ergebnis.geaendert.any()) m_dokument->melde({.daten = true});
 }
 
-void frmVela_Haupt::setModus(int art, i16 punkte) {
-    m_spiel.setModus(art, punkte);
-    geaendert();
-}
-
-void frmVela_Haupt::setFarbeMod(int art, Farbe farbe) {
-    m_spiel.setFarbeMod(art, farbe);
-    geaendert();
+void frmVela_Haupt::uebernimmEigeneRegel(const EigeneRegel& regel) {
+    setzeEigeneRegel(m_spiel, regel);
+    m_dokument->melde({.daten = true});
 }
 
 void frmVela_Haupt::HoleSpielerDaten(const SpielerDatenQuelle& quelle) {
-    m_spiel.HoleSpielerDaten(quelle);
+    m_dokument->aendere([&](Spielstand& s) { s.HoleSpielerDaten(quelle); }, {.daten = true});
     m_ansicht->zeigeSpielernamen(m_spiel);
-    geaendert();
     ShowMatchday();
 }
 

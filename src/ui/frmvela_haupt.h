@@ -4,7 +4,10 @@
 #include <functional>
 
 #include "scoring/auswahl.h"
+#include "scoring/regeln.h"
+#include "state/eintraege.h"
 #include "state/spielstand.h"
+#include "ui/bausteine/aenderung.h"
 #include "ui/haupt/hauptmenue.h"
 
 namespace kalimbo::ui {
@@ -32,20 +35,20 @@ class Tipptabellen;
 class frmVela_Haupt : public QMainWindow {
     Q_OBJECT
   public:
-    // Starts with the game file `startdatei` open, if one is given.
-    explicit frmVela_Haupt(Dialoge& dialoge, const QString& startdatei = {}, QWidget* eltern = nullptr);
+    // Starts with the game file `startdatei` (file-system bytes) open, if one is given; a recovery
+    // copy the user takes comes first.
+    explicit frmVela_Haupt(Dialoge& dialoge, const std::string& startdatei = {}, QWidget* eltern = nullptr);
 
     const Spielstand& spiel() const { return m_spiel; }
-    // Opens a game file as "Öffnen" does once the dialog has given the path.
-    void oeffne(const QString& pfad);
+    // Opens a game file as "Öffnen" does once the dialog has given the path (file-system bytes).
+    void oeffne(const std::string& pfad);
     // Shows the window: maximised on screens less than 768 pixels high, else at its designed size.
     void zeigeBeimStart();
     static bool startMaximiert(int bildschirmhoehe) { return bildschirmhoehe < 768; }
 
-    // The only ways other windows change the game: the own rule's points and colours of hit kind
-    // `art` 0..2, and the players' names, colours and participation.
-    void setModus(int art, i16 punkte);
-    void setFarbeMod(int art, Farbe farbe);
+    // The only ways other windows change the game: the own rule's points and colours (written with
+    // setModus and setFarbeMod), and the players' names, colours and participation.
+    void uebernimmEigeneRegel(const EigeneRegel& regel);
     void HoleSpielerDaten(const SpielerDatenQuelle& quelle);
 
   protected:
@@ -86,25 +89,31 @@ class frmVela_Haupt : public QMainWindow {
     void wendeSpielAn();
     void passeLayoutAn();
     void ShowMatchday();
+    // Takes the boxes into the game; announces the change when a value changed.
     void TakeEntries();
     void lblSpieltagWahl_Click(int spieltag);
     void lblAuswahl_Click(int spieltag);
     void blaettere(int schritt);
     void auswerten(const QString& anlass);
+    void werteAusMit(const Spieltagseintraege& eintraege, const QString& anlass, Aenderung art);
     void lblTeam_Click(int spiel, int seite);
     void lblSpieler_Click(int spieler);
+    void folgeInfobox(const Aenderung& art);
     void lblTabName_Click(int zeile);
-    void menGrafik_Click();
     void menUeber_Click();
-    // Shows a window that only reads the game, created on first use and kept.
+    // A secondary window, created on first use and kept; from then on it follows every change of
+    // the game (see Aenderung) while it is open.
     template <class Fenster>
-    void zeigeFenster(Fenster*& fenster);
+    Fenster& fenster(Fenster*& zeiger);
+    // What a window hands back to the main window, connected once when it is made.
+    void verbindeFenster(QWidget*) {}
+    void verbindeFenster(frmRegel* regel);
+    void verbindeFenster(frmSpieler* spieler);
     void cmdSonntag_Click();
     void menReg_Click(i16 modus);
     void menRegEigene_Click();
     void menSpielerAe_Click();
     void zeigeAuswahl(const Auswahlergebnis& ergebnis);
-    void geaendert();
 };
 
 }  // namespace kalimbo::ui

@@ -85,7 +85,6 @@ class FrmGrafikTest : public ui::test::FensterTest<frmGrafik> {
     void init() {
         erzeugeFenster();
         spiel = grafikSpiel();
-        fenster->setSpieltage(spiel.getAnzSpieltage());
         fenster->zeige(spiel);
     }
     void cleanup() { schliesseFenster(); }
@@ -214,18 +213,21 @@ class FrmGrafikTest : public ui::test::FensterTest<frmGrafik> {
         QCOMPARE(hintergrund(label("lblPunkteZeigen", 0)), qfarbe(static_cast<Farbe>(0x80000008u)));
     }
 
-    void ersterStartSetztUmschalterZurueck() {
+    // Shown again or following a change, the toggles stay where their slot still takes part.
+    void umschalterBleibenWoSiePassen() {
         QTest::mouseClick(label("lblAnsicht", 0), Qt::LeftButton);
         QTest::mouseClick(label("lblPunkteZeigen", 1), Qt::LeftButton);
-        grafik::Ansicht geaendert = grafik::ersteAnsicht(spiel);
-        geaendert.LinieZeigen[0] = false;
-        geaendert.PunkteZeigen[1] = true;
+        grafik::Ansicht erwartet = grafik::ersteAnsicht(spiel);
+        erwartet.LinieZeigen[0] = false;
+        erwartet.PunkteZeigen[1] = true;
         fenster->zeige(spiel);
-        QVERIFY(zeigt(geaendert));
-        fenster->setFirstLoad(true);
-        fenster->zeige(spiel);
-        QVERIFY(zeigt(grafik::ersteAnsicht(spiel)));
-        QCOMPARE(hintergrund(label("lblAnsicht", 0)), qfarbe(static_cast<Farbe>(0x80000008u)));
+        QVERIFY(zeigt(erwartet));
+        spiel.Teilnehmer[0] = 0;
+        spiel.Teilnehmer[2] = 1;
+        fenster->folge(spiel, {});
+        erwartet.LinieZeigen[2] = true;  // as the first time for the slots that changed
+        QVERIFY(zeigt(erwartet));
+        QCOMPARE(hintergrund(label("lblAnsicht", 2)), qfarbe(static_cast<Farbe>(0x80000008u)));
     }
 
     void rahmenFolgtNurDerLinkenTaste_data() {

@@ -54,12 +54,12 @@ class HauptDateienTest : public QObject {
         QTRY_COMPARE(zuletztSchluessel(),
                      (QStringList{pfade[0], pfade[1], pfade[2], "A.tip", "B.tip", "C.tip"}));
 
-        // A recent file is read, but a later save still proposes the file opened last by dialog.
+        // A recent file becomes the game's file, in the title and proposed by a save.
         h.aktion("menRecent_3")->trigger();
         QCOMPARE(zuletztMenue(h), (QStringList{"C.tip", "A.tip", "B.tip"}));
-        QCOMPARE(h.spiel().Dateipfad, pfade[0].toStdString());
+        QCOMPARE(h.fenster->windowTitle(), QStringLiteral("C.tip[*] - Kalimbo"));
         h.aktion("menSpeichern")->trigger();  // cancelled
-        QCOMPARE(h.dialoge.vorschlaege, QStringList{pfade[0]});
+        QCOMPARE(h.dialoge.vorschlaege, QStringList{pfade[2]});
 
         h.neuStarten();  // the list survives
         QCOMPARE(zuletztMenue(h), (QStringList{"C.tip", "A.tip", "B.tip"}));

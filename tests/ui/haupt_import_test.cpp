@@ -55,9 +55,10 @@ class HauptImportTest : public QObject {
         QCOMPARE(h.spiel().getTipp(Dieter, 1, 6, 0), 7);
         QCOMPARE(h.spiel().getSpielerName(Anna), std::string("Anne"));
         QCOMPARE(h.spiel().getLigaInfo(), std::string("Andere Liga"));
-        // Then as after opening: the other file is the one a save proposes, listed first, shown
-        // evaluated on its last selected matchday.
-        QCOMPARE(QString::fromStdString(h.spiel().Dateipfad), andere);
+        // Then as after opening, listed first and shown evaluated on its last selected matchday;
+        // the game's file stays the one in the title, which a save proposes.
+        QCOMPARE(h.fenster->windowTitle(), QStringLiteral("spiel.tip[*] - Kalimbo"));
+        QCOMPARE(QString::fromStdString(h.spiel().Dateipfad), h.ordner.filePath("spiel.tip"));
         QCOMPARE(h.aktion("menRecent_1")->text(), QStringLiteral("andere.tip"));
         QCOMPARE(h.spiel().getAktSpieltag(), 2);
         QCOMPARE(h.label("lblSpieler", Anna)->text(), QStringLiteral("Anne"));

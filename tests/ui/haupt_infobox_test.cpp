@@ -30,7 +30,8 @@ class HauptInfoboxTest : public QObject {
         h.neuStarten();  // nothing open: no current matchday, no sheet, only the caption
         QCOMPARE(titel(h), QStringLiteral("Spielerinformationen: "));
         QCOMPARE(kasten(h), QString());
-        h.fenster = std::make_unique<frmVela_Haupt>(h.dialoge, h.ordner.filePath("spiel.tip"));
+        h.fenster = std::make_unique<frmVela_Haupt>(
+            h.dialoge, QFile::encodeName(h.ordner.filePath("spiel.tip")).toStdString());
         QCOMPARE(titel(h), QStringLiteral("Spielerinformationen: Anna"));  // player 0 at start
         QCOMPARE(kasten(h), alsText(SpielerInfoText(h.spiel(), Anna, ".")));
         h.klick(h.label("lblSpieler", Dieter));

@@ -1,5 +1,7 @@
-// The recovery copy of unsaved changes: kept while the game has unsaved changes, offered at the
-// next start after the program was killed, removed by saving or by closing an unchanged game.
+// The recovery copy of unsaved changes: kept while the game has unsaved changes and when the window
+// quits, offered at the next start while its window is gone, never while it runs; removed by
+// saving, by "Nein" or by closing an unchanged game; a damaged one reported and moved aside.
+#include <QDir>
 #include <QGroupBox>
 #include <QProcess>
 #include <QThread>
@@ -11,19 +13,24 @@
 using namespace kalimbo;
 using namespace kalimbo::ui;
 using namespace kalimbo::ui::test;
+using Antwort = Dialoge::Antwort;
 
 namespace {
 
-// Waits, handling events, until the recovery copy is there (or a few seconds have passed).
+QStringList kopien(const QString& unterordner = {}) {
+    return QDir(Wiederherstellung::standardOrdner() + unterordner).entryList({"kopie-*.tip"}, QDir::Files);
+}
+
+// Waits, handling events, until a recovery copy is there (or a few seconds have passed).
 bool warteAufKopie() {
-    for (int i = 0; i < 100 && !Wiederherstellung().vorhandene(); ++i)
+    for (int i = 0; i < 100 && kopien().isEmpty(); ++i)
         QTest::qWait(50);
-    return Wiederherstellung().vorhandene().has_value();
+    return !kopien().isEmpty();
 }
 
 // The child process: opens the game, counts a goal, and once the copy is written says so and
 // waits to be killed.
-int kind(const QString& spiel) {
+int kind(const char* spiel) {
     TestDialoge dialoge;
     frmVela_Haupt fenster(dialoge, spiel);
     QTest::mouseClick(fenster.findChild<QLabel*>(QStringLiteral("lblHeimTeam_4")), Qt::LeftButton);
@@ -39,7 +46,8 @@ class HauptWiederherstellungTest : public QObject {
     Q_OBJECT
 
   private slots:
-    void nachEinemKillWirdAngeboten() {
+    // A running window's copy is not offered to a second one; once it is killed, it is.
+    void nurDieKopieEinesBeendetenFenstersWirdAngeboten() {
         QTemporaryDir ordner;
         const QString spiel = ordner.filePath("spiel.tip");
         speichereSpieldatei(QFile::encodeName(spiel).toStdString(), kleinesSpiel());
@@ -47,10 +55,15 @@ class HauptWiederherstellungTest : public QObject {
         prozess.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--kind"), spiel});
         QVERIFY(prozess.waitForReadyRead(20000));
         QCOMPARE(prozess.readAllStandardOutput().trimmed(), QByteArray("bereit"));
+        {
+            TestDialoge dialoge;
+            const frmVela_Haupt zweites(dialoge);
+            QVERIFY(dialoge.fragen.isEmpty());
+        }
         prozess.kill();
         QVERIFY(prozess.waitForFinished());
 
-        Hauptfenster h(Hauptfenster::Wiederherstellen{true});
+        Hauptfenster h(Hauptfenster::Wiederherstellen{Antwort::Ja});
         QCOMPARE(h.dialoge.fragen.size(), 1);
         QVERIFY2(QRegularExpression(QStringLiteral("^Ungespeicherte Änderungen vom .+ wiederherstellen\\?$"))
                      .match(h.dialoge.fragen[0])
@@ -61,22 +74,26 @@ class HauptWiederherstellungTest : public QObject {
         QCOMPARE(QString::fromStdString(h.spiel().Dateipfad), spiel);  // proposed for saving
         QVERIFY(h.fenster->isWindowModified());
         QCOMPARE(h.fenster->windowTitle(), QStringLiteral("spiel.tip[*] - Kalimbo"));
-        QVERIFY(
-            h.kind<QGroupBox>("fraBlitztabelle")->title().startsWith(QStringLiteral("Blitztabelle [---, ")));
     }
 
-    void neinVerwirftDieKopie() {
+    // Quitting keeps the copy; Escape ("later") leaves it for the next start, "Nein" removes it.
+    void beendenBehaeltDieKopieBisJaOderNein() {
         Hauptfenster h;
         h.oeffneSpiel();
-        h.klick(h.label("lblHeimTeam", 0));
-        QVERIFY(warteAufKopie());
-        h.neuStarten();  // answered "Nein"
-        QCOMPARE(h.dialoge.fragen.size(), 1);
-        QVERIFY(!Wiederherstellung().vorhandene());
-        QCOMPARE(h.spiel().getErgebnis(1, 0, 0), 0);  // an empty game: nothing was restored
+        h.feld("txtHeimTipp", Anna * 10 + 3)->setText("4");  // typed, not yet taken: in the copy too
+        h.aktion("menReg2")->trigger();
+        h.fenster->close();  // at once, before the copy's moment has come
+        QCOMPARE(kopien().size(), 1);
+        for (const Antwort antwort : {Antwort::Abbrechen, Antwort::Nein, Antwort::Nein}) {
+            h.dialoge.jaNein = {antwort};
+            h.neuStarten();
+            QCOMPARE(h.spiel().Modus, 2);  // not restored
+        }
+        QCOMPARE(h.dialoge.fragen.size(), 2);  // the third start found nothing
+        QVERIFY(kopien().isEmpty());
     }
 
-    void speichernEntferntDieKopie() {
+    void speichernOderUnveraendertSchliessenEntferntSie() {
         Hauptfenster h;
         h.oeffneSpiel();
         h.klick(h.label("lblHeimTeam", 0));
@@ -84,33 +101,67 @@ class HauptWiederherstellungTest : public QObject {
         h.dialoge.antworten << h.ordner.filePath("gesichert.tip");
         h.aktion("menSpeichern")->trigger();
         QTest::qWait(400);  // and nothing writes it again
-        QVERIFY(!Wiederherstellung().vorhandene());
+        QVERIFY(kopien().isEmpty());
+        h.klick(h.label("lblHeimTeam", 0));
+        QVERIFY(warteAufKopie());
+        h.oeffneSpiel();  // the changes dropped ("Verwerfen"): the copy goes with them
+        h.fenster->close();
+        QVERIFY(kopien().isEmpty());
     }
 
-    void schliessenMitAenderungenBehaeltSieSonstNicht() {
+    // With a copy pending and a game named at start, the question comes first: "Ja" takes the
+    // copy, anything else opens the game named.
+    void kopieVorDemStartargument_data() {
+        QTest::addColumn<int>("antwort");
+        QTest::addColumn<int>("modus");
+        QTest::newRow("ja") << int(Antwort::Ja) << 0;
+        QTest::newRow("nein") << int(Antwort::Nein) << 2;
+    }
+    void kopieVorDemStartargument() {
+        QFETCH(int, antwort);
         Hauptfenster h;
         h.oeffneSpiel();
-        h.feld("txtHeimTipp", Anna * 10 + 3)->setText("4");  // typed, not yet taken: in the copy too
         h.aktion("menReg2")->trigger();
-        h.fenster->close();  // at once, before the copy's moment has come
-        const auto kopie = Wiederherstellung().vorhandene();
-        QVERIFY(kopie.has_value());
-        QCOMPARE(kopie->inhalt.Modus, 0);
-        QCOMPARE(kopie->inhalt.TippDatei[Anna][1][3][0], 4);
-        QCOMPARE(kopie->pfad, h.ordner.filePath("spiel.tip"));
+        h.fenster->close();
+        h.fenster.reset();
+        h.dialoge.jaNein = {Antwort(antwort)};
+        const QString anderes = h.speichere("anderes.tip", kleinesSpiel(20));
+        h.fenster = std::make_unique<frmVela_Haupt>(h.dialoge, QFile::encodeName(anderes).toStdString());
+        QCOMPARE(h.dialoge.fragen.size(), 1);
+        QTEST(int(h.spiel().Modus), "modus");
+        QCOMPARE(h.spiel().AnzTeams, antwort == int(Antwort::Ja) ? 17 : 19);
+    }
 
-        h.neuStarten();
-        h.dialoge.fragen.clear();
+    // A copy that cannot be read is reported, naming where it now lies, and not offered again.
+    void beschaedigteKopieWirdBeiseiteGelegt_data() {
+        QTest::addColumn<QString>("datei");
+        QTest::newRow("spiel") << "tip";
+        QTest::newRow("angaben") << "ini";
+    }
+    void beschaedigteKopieWirdBeiseiteGelegt() {
+        QFETCH(QString, datei);
+        Hauptfenster h;
         h.oeffneSpiel();
-        h.fenster->close();  // unchanged
-        QVERIFY(!Wiederherstellung().vorhandene());
+        h.aktion("menReg2")->trigger();
+        h.fenster->close();
+        const QString kopie = Wiederherstellung::standardOrdner() + "/" + kopien()[0];
+        QFile f(kopie.chopped(3) + datei);
+        QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        f.write("[Allgemein\nzeit=morgen\n");
+        f.close();
+        h.neuStarten();
+        QVERIFY(h.dialoge.fragen.isEmpty());
+        const QStringList meldungen = h.meldungen();
+        QCOMPARE(meldungen.size(), 1);
+        QVERIFY2(meldungen[0].contains("beschaedigt/" + kopien("/beschaedigt")[0]), qPrintable(meldungen[0]));
+        QVERIFY(kopien().isEmpty());
     }
 };
 
 int main(int argc, char** argv) {
     if (argc == 3 && QByteArray(argv[1]) == "--kind") {
         QApplication app(argc, argv);
-        return kind(QString::fromLocal8Bit(argv[2]));
+        return kind(argv[2]);
     }
     HauptWiederherstellungTest test;
     return fuehreAus(test, argc, argv);

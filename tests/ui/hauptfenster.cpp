@@ -1,6 +1,7 @@
 #include "hauptfenster.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QSettings>
 
 #include "state/spieldatei.h"
@@ -68,18 +69,18 @@ Dateiinhalt kleinesSpiel(int teams) {
     return d;
 }
 
-Hauptfenster::Hauptfenster() : Hauptfenster(Wiederherstellen{false}) {}
+Hauptfenster::Hauptfenster() : Hauptfenster(Wiederherstellen{Dialoge::Antwort::Nein}) {}
 
 Hauptfenster::Hauptfenster(Wiederherstellen antwort) {
     QSettings(QStringLiteral("zorb 5.0"), QStringLiteral("Kalimbo")).clear();
-    dialoge.jaNein << antwort.ja;
+    dialoge.jaNein << antwort.antwort;
     fenster = std::make_unique<frmVela_Haupt>(dialoge);
     dialoge.jaNein.clear();
 }
 
 Hauptfenster::~Hauptfenster() {
     fenster.reset();
-    Wiederherstellung().verwerfe();  // nothing a test changed is offered to the next one
+    QDir(Wiederherstellung::standardOrdner()).removeRecursively();  // nothing is offered to the next test
     if (!dialoge.meldungen.isEmpty())
         QTest::qFail(qPrintable("unexpected messages: " + dialoge.meldungen.join(" | ")), __FILE__, __LINE__);
 }

@@ -34,7 +34,7 @@ class Hauptfenster {
   public:
     // How the question for a recovery copy left by another run is answered.
     struct Wiederherstellen {
-        bool ja;
+        Dialoge::Antwort antwort;
     };
     Hauptfenster();
     explicit Hauptfenster(Wiederherstellen antwort);

@@ -3,6 +3,9 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QPushButton>
+#include <array>
+#include <utility>
 
 namespace kalimbo::ui {
 
@@ -61,8 +64,35 @@ void QtDialoge::meldung(QWidget* eltern, const QString& text) {
     QMessageBox::information(eltern, QStringLiteral("Kalimbo"), text);
 }
 
-bool QtDialoge::frage(QWidget* eltern, const QString& text) {
-    return QMessageBox::question(eltern, QStringLiteral("Kalimbo"), text) == QMessageBox::Yes;
+namespace {
+
+// Asks `text` with the buttons given as (button, German text); Escape presses the last one.
+Dialoge::Antwort frageMit(QWidget* eltern, const QString& text,
+                          const std::array<std::pair<QMessageBox::StandardButton, const char*>, 3>& knoepfe) {
+    QMessageBox box(QMessageBox::Question, QStringLiteral("Kalimbo"), text, QMessageBox::NoButton, eltern);
+    for (const auto& [knopf, beschriftung] : knoepfe)
+        box.addButton(knopf)->setText(QString::fromUtf8(beschriftung));
+    box.setDefaultButton(knoepfe[0].first);
+    box.setEscapeButton(knoepfe[2].first);
+    const int gewaehlt = box.exec();
+    if (gewaehlt == knoepfe[0].first) return Dialoge::Antwort::Ja;
+    if (gewaehlt == knoepfe[1].first) return Dialoge::Antwort::Nein;
+    return Dialoge::Antwort::Abbrechen;
+}
+
+}  // namespace
+
+Dialoge::Antwort QtDialoge::frage(QWidget* eltern, const QString& text) {
+    return frageMit(
+        eltern, text,
+        {{{QMessageBox::Yes, "&Ja"}, {QMessageBox::No, "&Nein"}, {QMessageBox::Cancel, "&Später"}}});
+}
+
+Dialoge::Antwort QtDialoge::speichernFragen(QWidget* eltern, const QString& name) {
+    return frageMit(eltern, QStringLiteral("Änderungen an „%1“ speichern?").arg(name),
+                    {{{QMessageBox::Save, "&Speichern"},
+                      {QMessageBox::Discard, "&Verwerfen"},
+                      {QMessageBox::Cancel, "&Abbrechen"}}});
 }
 
 }  // namespace kalimbo::ui

@@ -16,10 +16,15 @@ class Dialoge {
     virtual QString oeffnen(QWidget* eltern, const QString& titel, const QString& filter) = 0;
     virtual QString speichern(QWidget* eltern, const QString& titel, const QString& filter,
                               const QString& vorschlag) = 0;
+    enum class Antwort { Ja, Nein, Abbrechen };
+
     // A message with only an OK button.
     virtual void meldung(QWidget* eltern, const QString& text) = 0;
-    // A question with "Ja" and "Nein"; true for "Ja".
-    virtual bool frage(QWidget* eltern, const QString& text) = 0;
+    // A question with "Ja", "Nein" and "Später"; Escape answers "Später" (Abbrechen): not now.
+    virtual Antwort frage(QWidget* eltern, const QString& text) = 0;
+    // Whether to save the changes of the game named `name` before it goes: "Speichern" (Ja),
+    // "Verwerfen" (Nein) or "Abbrechen"; Escape cancels.
+    virtual Antwort speichernFragen(QWidget* eltern, const QString& name) = 0;
 };
 
 // The real dialogs.
@@ -29,7 +34,8 @@ class QtDialoge : public Dialoge {
     QString speichern(QWidget* eltern, const QString& titel, const QString& filter,
                       const QString& vorschlag) override;
     void meldung(QWidget* eltern, const QString& text) override;
-    bool frage(QWidget* eltern, const QString& text) override;
+    Antwort frage(QWidget* eltern, const QString& text) override;
+    Antwort speichernFragen(QWidget* eltern, const QString& name) override;
 };
 
 // The game file to open (also to merge tips from, or to read coach periods from), as an absolute

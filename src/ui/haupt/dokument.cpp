@@ -1,9 +1,12 @@
 #include "dokument.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QLocale>
 #include <QWidget>
+#include <filesystem>
 
+#include "state/fehler.h"
 #include "state/spieldatei.h"
 #include "state/tippimport.h"
 #include "state/trainerdatei.h"
@@ -13,8 +16,17 @@ namespace kalimbo::ui {
 
 namespace {
 
-std::filesystem::path pfadVon(const QString& pfad) {
+std::string bytesVon(const QString& pfad) {
     return QFile::encodeName(pfad).toStdString();
+}
+
+QString anzeigeVon(const std::string& pfad) {
+    return QFile::decodeName(QByteArray::fromStdString(pfad));
+}
+
+// The file's bare name as it is shown in the title and the recent list.
+QString titelVon(const std::string& pfad) {
+    return anzeigeVon(std::filesystem::path(pfad).filename().string());
 }
 
 }  // namespace
@@ -44,65 +56,103 @@ Dokument::~Dokument() {
     if (m_zuletztSchreiben.isActive()) m_zuletzt.schreiben();
 }
 
-void Dokument::oeffne(const QString& angabe) {
-    const QString pfad = QFileInfo(angabe).absoluteFilePath();
-    m_spiel.oeffne(ladeSpieldatei(pfadVon(pfad)));
-    nachDemLesen(pfad, QFileInfo(pfad).fileName(), true);
+void Dokument::aendere(const std::function<void(Spielstand&)>& aenderung, Aenderung art) {
+    Spielstand neu = m_spiel;
+    aenderung(neu);
+    m_spiel = std::move(neu);
+    melde(art);
+}
+
+void Dokument::melde(Aenderung art) {
+    if (art.daten) geaendert();
+    emit spielGeaendert(art);
+}
+
+bool Dokument::darfErsetzen() {
+    if (!m_fenster->isWindowModified()) return true;
+    const QString name =
+        m_spiel.Dateipfad.empty() ? QStringLiteral("Neues Tippspiel") : titelVon(m_spiel.Dateipfad);
+    switch (m_dialoge.speichernFragen(m_fenster, name)) {
+        case Dialoge::Antwort::Ja:
+            return menSpeichern_Click();
+        case Dialoge::Antwort::Nein:
+            return true;
+        case Dialoge::Antwort::Abbrechen:
+            break;
+    }
+    return false;
+}
+
+void Dokument::oeffne(const std::string& angabe) {
+    const std::string pfad = std::filesystem::absolute(angabe).lexically_normal().string();
+    oeffneUnter(pfad, titelVon(pfad));
+}
+
+// The file is read first: one that cannot be read leaves the game, its changes and its copy as
+// they were.
+void Dokument::oeffneUnter(const std::string& pfad, const QString& titel) {
+    const Dateiinhalt inhalt = ladeSpieldatei(pfad);
+    aendere([&](Spielstand& s) { s.oeffne(inhalt); }, {.ersetzt = true});
+    setzeDatei(pfad);
+    m_fenster->setWindowModified(false);
+    m_sicherung.stop();
+    m_wiederherstellung.verwerfe();
+    merke(anzeigeVon(pfad), titel);
+    emit spielGeladen();
 }
 
 void Dokument::menOeffnen_Click() {
-    if (const QString pfad = waehleSpieldatei(m_dialoge, m_fenster); !pfad.isEmpty()) oeffne(pfad);
+    if (!darfErsetzen()) return;
+    if (const QString pfad = waehleSpieldatei(m_dialoge, m_fenster); !pfad.isEmpty()) oeffne(bytesVon(pfad));
 }
 
 void Dokument::menRecent_Click(int eintrag) {
+    if (!darfErsetzen()) return;
     const ZuletztListe::Eintrag datei = m_zuletzt.eintraege[static_cast<std::size_t>(eintrag)];
-    m_spiel.oeffne(ladeSpieldatei(pfadVon(datei.pfad)));
-    nachDemLesen(datei.pfad, datei.titel, false);
+    oeffneUnter(bytesVon(datei.pfad), datei.titel);
 }
 
 void Dokument::menTippdatei_Click() {
     const QString pfad = waehleSpieldatei(m_dialoge, m_fenster);
     if (pfad.isEmpty()) return;
-    const Dateiinhalt andere = ladeSpieldatei(pfadVon(pfad));
-    uebernimmEintraege(m_spiel, m_eintraege());
-    fuegeTippdateiEin(m_spiel, andere);
-    nachDemLesen(pfad, QFileInfo(pfad).fileName(), true);
-    geaendert();
+    const Dateiinhalt andere = ladeSpieldatei(bytesVon(pfad));
+    const Spieltagseintraege eintraege = m_eintraege();
+    aendere(
+        [&](Spielstand& s) {
+            uebernimmEintraege(s, eintraege);
+            fuegeTippdateiEin(s, andere);
+        },
+        {.daten = true});
+    merke(pfad, QFileInfo(pfad).fileName());
+    emit spielGeladen();
 }
 
 void Dokument::menImpTrainer_Click() {
     const QString pfad = waehleSpieldatei(m_dialoge, m_fenster);
     if (pfad.isEmpty()) return;
-    m_spiel.Trainerwechsel = ladeTrainerdatei(pfadVon(pfad));
+    const auto trainer = ladeTrainerdatei(bytesVon(pfad));
+    aendere([&](Spielstand& s) { s.Trainerwechsel = trainer; }, {.daten = true});
     zeigeTrainermenue(m_menue, m_spiel);
-    geaendert();
 }
 
-void Dokument::menSpeichern_Click() {
-    uebernimmEintraege(m_spiel, m_eintraege());
+bool Dokument::menSpeichern_Click() {
+    if (uebernimmEintraege(m_spiel, m_eintraege())) melde({.daten = true});
     m_spiel.kopiereArbeitInDatei();
-    const QString pfad = waehleSpeicherort(m_dialoge, m_fenster, QString::fromStdString(m_spiel.Dateipfad));
-    if (pfad.isEmpty()) return;
-    speichereSpieldatei(pfadVon(pfad), m_spiel);
-    setzeDatei(pfad, true);
+    const QString pfad = waehleSpeicherort(m_dialoge, m_fenster, anzeigeVon(m_spiel.Dateipfad));
+    if (pfad.isEmpty()) return false;
+    speichereSpieldatei(bytesVon(pfad), m_spiel);
+    setzeDatei(bytesVon(pfad));
     m_fenster->setWindowModified(false);
+    m_sicherung.stop();
     m_wiederherstellung.verwerfe();
     merke(pfad, QFileInfo(pfad).fileName());
+    return true;
 }
 
-void Dokument::nachDemLesen(const QString& pfad, const QString& titel, bool alsSpeicherziel) {
-    setzeDatei(pfad, alsSpeicherziel);
-    m_fenster->setWindowModified(false);
-    merke(pfad, titel);
-    emit spielGeladen();
-}
-
-void Dokument::setzeDatei(const QString& pfad, bool alsSpeicherziel) {
-    const QString titel = QFileInfo(pfad).fileName();
-    if (alsSpeicherziel) {
-        m_spiel.Dateipfad = pfad.toStdString();
-        m_spiel.Dateititel = titel.toStdString();
-    }
+void Dokument::setzeDatei(const std::string& pfad) {
+    m_spiel.Dateipfad = pfad;
+    m_spiel.Dateititel = std::filesystem::path(pfad).filename().string();
+    const QString titel = titelVon(pfad);
     m_fenster->setWindowTitle(titel.isEmpty() ? QStringLiteral("Kalimbo[*]")
                                               : titel + QStringLiteral("[*] - Kalimbo"));
 }
@@ -133,26 +183,41 @@ void Dokument::sichereKopie() {
         Spielstand kopie = m_spiel;
         uebernimmEintraege(kopie, m_eintraege());
         kopie.kopiereArbeitInDatei();
-        m_wiederherstellung.sichere(kopie, QString::fromStdString(m_spiel.Dateipfad),
-                                    QString::fromStdString(m_spiel.Dateititel));
+        m_wiederherstellung.sichere(kopie, m_spiel.Dateipfad);
     } catch (const std::exception&) {
     }
 }
 
 bool Dokument::stelleWiederHer() {
-    const auto kopie = m_wiederherstellung.vorhandene();
-    if (!kopie) return false;
-    const QString zeit = QLocale().toString(kopie->zeit, QLocale::ShortFormat);
-    if (!m_dialoge.frage(m_fenster,
-                         QStringLiteral("Ungespeicherte Änderungen vom %1 wiederherstellen?").arg(zeit))) {
-        m_wiederherstellung.verwerfe();
-        return false;
+    for (Wiederherstellung::Fund& fund : m_wiederherstellung.verwaiste()) {
+        Wiederherstellung::Kopie kopie;
+        try {
+            kopie = fund.lies();
+        } catch (const std::exception& fehler) {
+            const QString beiseite = fund.legeBeiseite();
+            m_dialoge.meldung(m_fenster,
+                              QString::fromStdString(deutscheMeldung(fehler)) +
+                                  QStringLiteral("\n\nDie Kopie liegt jetzt unter „%1“.").arg(beiseite));
+            continue;
+        }
+        const QString zeit = QLocale().toString(kopie.zeit, QLocale::ShortFormat);
+        switch (m_dialoge.frage(
+            m_fenster, QStringLiteral("Ungespeicherte Änderungen vom %1 wiederherstellen?").arg(zeit))) {
+            case Dialoge::Antwort::Nein:
+                fund.verwirf();
+                continue;
+            case Dialoge::Antwort::Abbrechen:
+                continue;
+            case Dialoge::Antwort::Ja:
+                break;
+        }
+        m_wiederherstellung.uebernimm(std::move(fund));
+        aendere([&](Spielstand& s) { s.oeffne(kopie.inhalt); }, {.ersetzt = true, .daten = true});
+        setzeDatei(kopie.pfad);
+        emit spielGeladen();
+        return true;
     }
-    m_spiel.oeffne(kopie->inhalt);
-    setzeDatei(kopie->pfad, true);
-    emit spielGeladen();
-    geaendert();
-    return true;
+    return false;
 }
 
 }  // namespace kalimbo::ui

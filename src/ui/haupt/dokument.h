@@ -3,9 +3,11 @@
 #include <QObject>
 #include <QTimer>
 #include <functional>
+#include <string>
 
 #include "state/eintraege.h"
 #include "state/spielstand.h"
+#include "ui/bausteine/aenderung.h"
 #include "ui/haupt/hauptmenue.h"
 #include "ui/haupt/wiederherstellung.h"
 #include "ui/haupt/zuletztliste.h"
@@ -17,11 +19,11 @@ namespace kalimbo::ui {
 class Dialoge;
 
 // The game as the main window's document, and the commands of the "Datei" menu that read and write
-// it: the file it was loaded from (named in the window title), the file a save proposes
-// (Dateipfad, Dateititel: the one last opened through the dialog, merged or saved), the three
-// files used last, whether it has unsaved changes (the title's "*"), and the recovery copy kept
-// while it has them. Every command may throw the core's errors; the caller's error boundary shows
-// them, and a file that cannot be read changes nothing.
+// it: the game's file (named in the window title and proposed by a save: the last one opened by any
+// way or saved), the three files used last, whether it has unsaved changes (the title's "*"), and
+// the recovery copy kept while it has them. Every change of the game is announced through
+// spielGeaendert, so every window showing the game follows it. Every command may throw the core's
+// errors; the caller's error boundary shows them, and a file that cannot be read changes nothing.
 class Dokument : public QObject {
     Q_OBJECT
   public:
@@ -32,30 +34,43 @@ class Dokument : public QObject {
     // Stores the list of recent files if a change of it is still waiting.
     ~Dokument() override;
 
-    // Opens the game file at `pfad` (made absolute), as "Öffnen" does once the dialog has answered.
-    void oeffne(const QString& pfad);
+    // Runs `aenderung` on a copy of the game and puts the copy in its place only when it succeeds:
+    // an operation that fails half-way (an overflow in an evaluation) leaves the game as it was.
+    // Then announces `art`.
+    void aendere(const std::function<void(Spielstand&)>& aenderung, Aenderung art);
+    // Announces a change already made in one step: the title's "*" and the recovery copy for a
+    // change of the data, then spielGeaendert.
+    void melde(Aenderung art);
+
+    // Opens the game file at `pfad` (file-system bytes; made absolute), as "Öffnen" does once the
+    // dialog has answered. Asks nothing.
+    void oeffne(const std::string& pfad);
     void menOeffnen_Click();
-    // A recent file is read without becoming the file a later save proposes.
     void menRecent_Click(int eintrag);
     // Results and tips of another game file fill those still 0:0; every other field becomes the
-    // other file's, which is then the file a save proposes.
+    // other file's. The game's file stays the same.
     void menTippdatei_Click();
-    // The coach periods of any file; the file does not become the game's file.
+    // The coach periods of any file; the game's file stays the same.
     void menImpTrainer_Click();
-    void menSpeichern_Click();
+    // Saves after asking for the name; false when the user cancelled.
+    bool menSpeichern_Click();
 
-    // The game changed: "*" in the title, and a moment later (so that a run of changes writes it
-    // once) the recovery copy.
+    // The user typed into a box: the game counts as changed ("*" in the title, and a moment later,
+    // so that a run of changes writes it once, the recovery copy).
     void geaendert();
-    // The window closes: with unsaved changes the copy is written at once, without them removed.
+    // The window closes: with unsaved changes the copy is kept (written at once), else removed.
     void schliesst();
-    // The copy an earlier run left, if the user wants it back ("Nein" discards it). The game is
-    // then the copy's, with its file proposed for saving, and marked as changed.
+    // Offers the copies that windows no longer running left, newest first, until the user takes
+    // one ("Ja"); "Nein" discards a copy, Escape leaves it for the next start. A copy that cannot be
+    // read is reported and moved aside. Returns whether a copy was taken: the game is then the
+    // copy's, with its file proposed for saving, and marked as changed.
     bool stelleWiederHer();
 
   signals:
-    // A game was read into the state (opened, merged or recovered) and is to be shown.
+    // A game was read into the state (opened, merged or recovered) and is to be shown whole.
     void spielGeladen();
+    // The game changed (see Aenderung).
+    void spielGeaendert(const Aenderung& art);
 
   private:
     QWidget* m_fenster;
@@ -68,8 +83,11 @@ class Dokument : public QObject {
     QTimer m_sicherung;
     QTimer m_zuletztSchreiben;
 
-    void nachDemLesen(const QString& pfad, const QString& titel, bool alsSpeicherziel);
-    void setzeDatei(const QString& pfad, bool alsSpeicherziel);
+    // Before another game takes this one's place: unsaved changes are saved or dropped as the
+    // user says. False when the user cancelled.
+    bool darfErsetzen();
+    void oeffneUnter(const std::string& pfad, const QString& titel);
+    void setzeDatei(const std::string& pfad);
     void merke(const QString& pfad, const QString& titel);
     void sichereKopie();
 };

@@ -29,22 +29,57 @@ Infobox::Infobox(QWidget* eltern) : QGroupBox(eltern) {
     txtTeamInfo->setTabStopDistance(8 * QFontMetricsF(fest).horizontalAdvance(QLatin1Char(' ')));
 }
 
-void Infobox::setzeText(const std::optional<std::string>& text) {
-    if (!text) return;
-    m_text = *text;
+void Infobox::setzeText(const std::string& text) {
+    m_text = text;
     txtTeamInfo->setPlainText(QString::fromStdString(m_text));
 }
 
+QString Infobox::ueberschrift() const {
+    return m_thema.team ? QStringLiteral("Mannschaftsinformationen: ")
+                        : QStringLiteral("Spielerinformationen: ");
+}
+
+void Infobox::zeigeThema(const Spielstand& spiel, bool leeren) {
+    const int i = m_thema.index;
+    setTitle(ueberschrift() +
+             kalimbo::ui::text(m_thema.team ? spiel.getTeamName(i) : spiel.getSpielerName(i)));
+    const auto blatt = m_thema.team ? TeamInfoText(spiel, i)
+                                    : SpielerInfoText(spiel, i, QLocale().decimalPoint().toStdString());
+    if (blatt)
+        setzeText(*blatt);
+    else if (leeren)
+        leere();
+}
+
+void Infobox::leere() {
+    setTitle(ueberschrift());
+    setzeText({});
+}
+
 void Infobox::zeigeSpieler(const Spielstand& spiel, int spieler) {
-    setTitle(QStringLiteral("Spielerinformationen: ") + kalimbo::ui::text(spiel.getSpielerName(spieler)));
-    setzeText(SpielerInfoText(spiel, spieler, QLocale().decimalPoint().toStdString()));
+    m_thema = {false, spieler};
+    zeigeThema(spiel, false);
 }
 
 // Every team on that row in turn, as the table has always been looked up; the last one stays.
 void Infobox::zeigeTeam(const Spielstand& spiel, int zeile) {
     for (const i16 team : teamsAufTabellenplatz(spiel, zeile)) {
-        setTitle(QStringLiteral("Mannschaftsinformationen: ") + kalimbo::ui::text(spiel.getTeamName(team)));
-        setzeText(TeamInfoText(spiel, team));
+        m_thema = {true, team};
+        zeigeThema(spiel, false);
+    }
+}
+
+// A sheet that cannot be built for the new figures (a division by zero) is not reported here, as it
+// is on a click: the box is cleared.
+void Infobox::folge(const Spielstand& spiel, const Aenderung& art) {
+    if (art.ersetzt)
+        m_thema = {};
+    else if (!art.zahlen)
+        return;
+    try {
+        zeigeThema(spiel, true);
+    } catch (const Laufzeitfehler&) {
+        leere();
     }
 }
 

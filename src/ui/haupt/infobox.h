@@ -5,6 +5,7 @@
 #include <string>
 
 #include "state/spielstand.h"
+#include "ui/bausteine/aenderung.h"
 
 class QPlainTextEdit;
 
@@ -25,6 +26,10 @@ class Infobox : public QGroupBox {
     void zeigeSpieler(const Spielstand& spiel, int spieler);
     // The sheet of the team on row `zeile` of the league table, likewise.
     void zeigeTeam(const Spielstand& spiel, int zeile);
+    // Follows the game: after another game took its place, player 0's sheet (the text cleared
+    // while the game has no current matchday); after an evaluation, the sheet shown built afresh,
+    // likewise. So the box never shows, nor exports, another game's or an old evaluation's sheet.
+    void folge(const Spielstand& spiel, const Aenderung& art);
     // The text shown, exactly as the core built it (UTF-8, CR LF).
     const std::string& text() const { return m_text; }
     // Saves the text shown as a text file chosen in a dialog, with the footer and the date and time
@@ -35,7 +40,20 @@ class Infobox : public QGroupBox {
     void setzeHoehen(int rahmen, int textfeld);
 
   private:
-    void setzeText(const std::optional<std::string>& text);
+    // Whose sheet is shown: a player slot or a team index.
+    struct Thema {
+        bool team = false;
+        int index = 0;
+    };
+    // The sheet of m_thema with its caption; where none can be built the text stays, or with
+    // `leeren` is cleared together with the name in the caption.
+    void zeigeThema(const Spielstand& spiel, bool leeren);
+    void setzeText(const std::string& text);
+    // The caption without a name and no text.
+    void leere();
+    QString ueberschrift() const;
+
+    Thema m_thema;
 
     QPlainTextEdit* txtTeamInfo;
     std::string m_text;

@@ -297,11 +297,6 @@ Spieltagseintraege Spieltagsansicht::eintraege() const {
     return e;
 }
 
-void Spieltagsansicht::zaehleTor(int spiel, int seite) {
-    Eingabefeld* feld = (seite == 0 ? txtHeimErgebnis : txtAusErgebnis)[pruefeIndex(spiel, MaxSpiele)];
-    feld->setZahl(plus16(zahlAusText(wertVon(feld)), 1));
-}
-
 void Spieltagsansicht::feld_GotFocus(Eingabefeld* feld) {
     m_wertBeiFokus[feld->art()] = zahlAusText(feld->text().toStdString());
     feld->clear();

@@ -33,9 +33,6 @@ class Spieltagsansicht : public QFrame {
     void zeige(const Spielstand& spiel);
     // The texts of the boxes; a box being edited and still empty stands for the value it had.
     Spieltagseintraege eintraege() const;
-    // One goal more in the result box of match `spiel` for side `seite` (0 home, 1 away), counting
-    // from the value the box stands for. Throws Laufzeitfehler::Ueberlauf beyond 32767.
-    void zaehleTor(int spiel, int seite);
     // The players' names over their columns.
     void zeigeSpielernamen(const Spielstand& spiel);
     void setzeLayout(const Saisonlayout& layout);
