@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # Installs the build into a temporary prefix and checks what the desktop needs of the installed
 # tree: every file in its place, a valid desktop entry that opens game files, game files known by
-# their extension, a manual page without warnings, and programs that run from there.
-# Usage: installation_test.sh BUILD MIMETYP SPIEL.tip MANUALSEITE
+# their extension, manual pages without warnings, and programs that run from there.
+# Usage: installation_test.sh BUILD MIMETYP SPIEL.tip
 set -euo pipefail
-build=$1 mimetyp=$2 spiel=$3 handbuch=$4
+build=$1 mimetyp=$2 spiel=$3
 ziel=$(mktemp -d)
 trap 'rm -rf "$ziel"' EXIT
 fehler() { echo "FEHLER: $*" >&2; exit 1; }
@@ -12,7 +12,7 @@ fehler() { echo "FEHLER: $*" >&2; exit 1; }
 cmake --install "$build" --prefix "$ziel" >/dev/null
 for datei in bin/kalimbo bin/kalimbo-cli share/applications/kalimbo.desktop share/mime/packages/kalimbo.xml \
              share/icons/hicolor/scalable/apps/kalimbo.svg share/icons/hicolor/16x16/apps/kalimbo.png \
-             share/icons/hicolor/256x256/apps/kalimbo.png share/man/man1/kalimbo-cli.1; do
+             share/icons/hicolor/256x256/apps/kalimbo.png share/man/man1/kalimbo.1.gz share/man/man1/kalimbo-cli.1.gz; do
     [ -e "$ziel/$datei" ] || fehler "nicht installiert: $datei"
 done
 
@@ -36,6 +36,8 @@ if command -v xdg-mime >/dev/null; then
     [ "$standard" = kalimbo.desktop ] || fehler "xdg-mime öffnet Tippspiel-Dateien mit: $standard"
 fi
 
-warnungen=$(groff -k -man -Tutf8 -ww -z "$handbuch" 2>&1)
-[ -z "$warnungen" ] || fehler "Handbuchseite: $warnungen"
+for seite in "$ziel"/share/man/man1/*.1.gz; do
+    warnungen=$(zcat "$seite" | groff -k -man -Tutf8 -ww -z 2>&1)
+    [ -z "$warnungen" ] || fehler "Handbuchseite ${seite##*/}: $warnungen"
+done
 echo "Installation in Ordnung"
