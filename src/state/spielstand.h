@@ -105,6 +105,8 @@ struct SpielerAuswertung {
     // The record as the evaluation's reset leaves it: places equal to the slot, no points,
     // every tip white and unscored (-1).
     static SpielerAuswertung leer(int slot);
+
+    friend bool operator==(const SpielerAuswertung&, const SpielerAuswertung&) = default;
 };
 
 // One row of a league table, indexed by team.

@@ -1,5 +1,6 @@
 // Opening and saving games from the main window: the recent-files list and its settings, the
 // file a save proposes, refused files, the window title, and what opening shows at once.
+#include <sys/stat.h>
 #include <unistd.h>
 #include <QDialogButtonBox>
 #include <QDir>
@@ -64,6 +65,41 @@ class HauptDateienTest : public QObject {
         h.neuStarten();  // the list survives
         QCOMPARE(zuletztMenue(h), (QStringList{"C.tip", "A.tip", "B.tip"}));
         QCOMPARE(h.aktion("menRecent_1")->toolTip(), pfade[2]);
+    }
+
+    // Something typed counts as a change: before another game is opened the user is asked, before
+    // any file dialog. Abbrechen keeps everything; Speichern saves first, then opens.
+    void aenderungenWerdenVorDemOeffnenErfragt_data() {
+        QTest::addColumn<int>("antwort");
+        QTest::addColumn<QStringList>("dateien");  // chosen in the file dialogs, in order
+        QTest::addColumn<int>("teams");            // of the game shown afterwards
+        QTest::addColumn<int>("gespeichert");      // the home goals of the typed result in spiel.tip
+        QTest::newRow("abbrechen") << int(Dialoge::Antwort::Abbrechen) << QStringList{} << 18 << 1;
+        QTest::newRow("verwerfen") << int(Dialoge::Antwort::Nein) << QStringList{"andere.tip"} << 20 << 1;
+        QTest::newRow("speichern") << int(Dialoge::Antwort::Ja) << QStringList{"spiel.tip", "andere.tip"}
+                                   << 20 << 17;
+    }
+    void aenderungenWerdenVorDemOeffnenErfragt() {
+        QFETCH(int, antwort);
+        QFETCH(QStringList, dateien);
+        Hauptfenster h;
+        h.oeffneSpiel();
+        h.speichere("andere.tip", kleinesSpiel(20));
+        QTest::keyClick(h.feld("txtHeimErgebnis", 0), Qt::Key_7);  // 1:0 becomes 17:0
+        h.dialoge.speicherantworten = {Dialoge::Antwort(antwort)};
+        h.dialoge.titel.clear();
+        for (const QString& datei : dateien)
+            h.dialoge.antworten << h.ordner.filePath(datei);
+        h.aktion("menOeffnen")->trigger();
+        QCOMPARE(h.dialoge.speicherfragen, QStringList{"spiel.tip"});
+        QCOMPARE(h.dialoge.titel.size(), dateien.size());
+        QTEST(h.spiel().getAnzTeams() + 1, "teams");
+        QTEST(int(ladeSpieldatei(QFile::encodeName(h.ordner.filePath("spiel.tip")).toStdString())
+                      .ErgebnisDatei[1][0][0]),
+              "gespeichert");
+        h.dialoge.speicherantworten = {Dialoge::Antwort::Abbrechen};
+        h.aktion("menRecent_1")->trigger();  // asked again only while there are changes
+        QCOMPARE(h.dialoge.speicherfragen.size(), antwort == int(Dialoge::Antwort::Abbrechen) ? 2 : 1);
     }
 
     void relativerPfadWirdAbsolutGemerkt() {
@@ -173,6 +209,24 @@ class HauptDateienTest : public QObject {
         h.aktion("menRecent_2")->trigger();
         QVERIFY(h.meldungen().join("").contains(QStringLiteral("konnte nicht geöffnet werden")));
         QCOMPARE(h.spiel().getAnzTeams(), 17);
+    }
+
+    // Only regular files are opened, and at once: a named pipe is refused without waiting for
+    // data. A file name that is not UTF-8 opens from the command line and is saved to again.
+    void sonderdateienUndNamenAusBytes() {
+        Hauptfenster h;
+        const QString fifo = h.ordner.filePath("f.tip");
+        QCOMPARE(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
+        h.oeffne(fifo);
+        QVERIFY(h.meldungen().join("").contains(QStringLiteral("keine gewöhnliche Datei")));
+        const std::string name = QFile::encodeName(h.ordner.path()).toStdString() + "/sp\xe4l.tip";
+        speichereSpieldatei(name, kleinesSpiel(20));
+        h.fenster = std::make_unique<frmVela_Haupt>(h.dialoge, name);
+        QCOMPARE(h.spiel().getAnzTeams(), 19);
+        h.aktion("menReg2")->trigger();
+        h.dialoge.antworten << QFile::decodeName(QByteArray::fromStdString(name));  // the proposal
+        h.aktion("menSpeichern")->trigger();
+        QCOMPARE(ladeSpieldatei(name).Modus, 0);
     }
 
     void speichernAnEinenUnbeschreibbarenOrtLaesstDieAlteDatei() {

@@ -2,6 +2,8 @@
 // abandoned entry, "X" on a home tip, goal clicks, and numbers too large for a score.
 #include <QClipboard>
 #include <QGroupBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 
 #include "hauptfenster.h"
 
@@ -233,6 +235,37 @@ class HauptEingabeTest : public QObject {
         h.feld("txtHeimErgebnis", 0)->setText("4");  // the window keeps working
         h.auswerten();
         QCOMPARE(h.spiel().getErgebnis(1, 0, 0), 4);
+    }
+
+    // An evaluation that overflows (30000 points a full hit) changes nothing on screen: points,
+    // places, tables, sheet and the goal's box show the evaluation before, and the game is as it was.
+    void ueberlaufLaesstAllesWieEsWar() {
+        Hauptfenster h;
+        h.oeffneSpiel();
+        h.klick(h.label("lblSpieler", Anna));
+        const auto bildschirm = [&h] {
+            QStringList texte{h.kind<QGroupBox>("fraBlitztabelle")->title(),
+                              h.kind<QPlainTextEdit>("txtTeamInfo")->toPlainText(),
+                              h.feld("txtHeimErgebnis", 0)->text()};
+            for (const char* name :
+                 {"lblSptgPunkte", "lblGesamtPunkte", "lblGesamtPlatz", "lblGesamttabellePkt"})
+                for (int p = 0; p < MaxSpieler; ++p)
+                    texte << h.label(name, p)->text();
+            for (int z = 0; z < 18; ++z)
+                texte << h.label("lblTabName", z)->text() << h.label("lblTabPunkte", z)->text();
+            return texte;
+        };
+        const QStringList vorher = bildschirm();
+        const Spielstand spiel = h.spiel();
+        h.aktion("menRegEigene")->trigger();
+        h.kind<QLineEdit>("txtNeuModus_0")->setText("30000");
+        h.klick(h.kind("cmdOK"));
+        h.auswerten();
+        h.klick(h.label("lblHeimTeam", 0));
+        QCOMPARE(h.meldungen().size(), 2);
+        QCOMPARE(bildschirm(), vorher);
+        QCOMPARE(h.spiel().Auswertung, spiel.Auswertung);
+        QCOMPARE(h.spiel().Ergebnis, spiel.Ergebnis);
     }
 
     void getippteZahlUeber32767WirdAbgelehnt() {

@@ -47,6 +47,7 @@ class HauptImportTest : public QObject {
         const QString andere = h.speichere("andere.tip", andereDatei());
         importiere(h, "menTippdatei", andere);
         QCOMPARE(h.meldungen(), QStringList());
+        QVERIFY(h.dialoge.speicherfragen.isEmpty());  // a merge keeps what is typed, asking nothing
         QCOMPARE(h.spiel().getErgebnis(2, 0, 0), 2);
         QCOMPARE(h.spiel().getErgebnis(2, 0, 1), 1);
         QCOMPARE(h.spiel().getErgebnis(1, 0, 0), 1);

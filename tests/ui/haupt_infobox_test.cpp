@@ -46,6 +46,25 @@ class HauptInfoboxTest : public QObject {
         QCOMPARE(kasten(h), vorher);
     }
 
+    // The box follows the game: an evaluation rebuilds the sheet shown (here a team's), another
+    // game shows its player 0, or nothing while it has no current matchday.
+    void folgtDemSpiel() {
+        Hauptfenster h;
+        h.oeffneSpiel();
+        h.klick(h.label("lblTabName", 1));
+        h.klick(h.label("lblHeimTeam", 3));  // a goal for Hamburg: its sheet follows
+        QCOMPARE(titel(h), QStringLiteral("Mannschaftsinformationen: Hamburg"));
+        QCOMPARE(kasten(h), alsText(TeamInfoText(h.spiel(), 7)));
+        Dateiinhalt ohneSpieltag = kleinesSpiel(20);
+        ohneSpieltag.AktSpieltagGlobal = KeinAktuellerSpieltag;
+        h.oeffneSpiel(ohneSpieltag);
+        QCOMPARE(titel(h), QStringLiteral("Spielerinformationen: "));
+        QCOMPARE(kasten(h), QString());
+        h.oeffneSpiel(kleinesSpiel(20));
+        QCOMPARE(titel(h), QStringLiteral("Spielerinformationen: Anna"));
+        QCOMPARE(kasten(h), alsText(SpielerInfoText(h.spiel(), Anna, ".")));
+    }
+
     void dezimaltrennerDesBenutzers() {
         Hauptfenster h;
         h.oeffneSpiel();

@@ -138,10 +138,13 @@ void Dokument::menImpTrainer_Click() {
 bool Dokument::menSpeichern_Click() {
     if (uebernimmEintraege(m_spiel, m_eintraege())) melde({.daten = true});
     m_spiel.kopiereArbeitInDatei();
-    const QString pfad = waehleSpeicherort(m_dialoge, m_fenster, anzeigeVon(m_spiel.Dateipfad));
+    // The proposal taken as it is keeps the file's own bytes, whatever its name's encoding.
+    const QString vorschlag = anzeigeVon(m_spiel.Dateipfad);
+    const QString pfad = waehleSpeicherort(m_dialoge, m_fenster, vorschlag);
     if (pfad.isEmpty()) return false;
-    speichereSpieldatei(bytesVon(pfad), m_spiel);
-    setzeDatei(bytesVon(pfad));
+    const std::string ziel = pfad == vorschlag ? m_spiel.Dateipfad : bytesVon(pfad);
+    speichereSpieldatei(ziel, m_spiel);
+    setzeDatei(ziel);
     m_fenster->setWindowModified(false);
     m_sicherung.stop();
     m_wiederherstellung.verwerfe();
