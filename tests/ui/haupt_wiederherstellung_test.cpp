@@ -114,8 +114,9 @@ class HauptWiederherstellungTest : public QObject {
     void kopieVorDemStartargument_data() {
         QTest::addColumn<int>("antwort");
         QTest::addColumn<int>("modus");
-        QTest::newRow("ja") << int(Antwort::Ja) << 0;
-        QTest::newRow("nein") << int(Antwort::Nein) << 2;
+        QTest::addColumn<QString>("zuletzt");  // the game named is not even read when the copy is taken
+        QTest::newRow("ja") << int(Antwort::Ja) << 0 << "spiel.tip";
+        QTest::newRow("nein") << int(Antwort::Nein) << 2 << "anderes.tip";
     }
     void kopieVorDemStartargument() {
         QFETCH(int, antwort);
@@ -129,6 +130,7 @@ class HauptWiederherstellungTest : public QObject {
         h.fenster = std::make_unique<frmVela_Haupt>(h.dialoge, QFile::encodeName(anderes).toStdString());
         QCOMPARE(h.dialoge.fragen.size(), 1);
         QTEST(int(h.spiel().Modus), "modus");
+        QTEST(h.aktion("menRecent_1")->text(), "zuletzt");
         QCOMPARE(h.spiel().AnzTeams, antwort == int(Antwort::Ja) ? 17 : 19);
     }
 
@@ -153,6 +155,7 @@ class HauptWiederherstellungTest : public QObject {
         QVERIFY(h.dialoge.fragen.isEmpty());
         const QStringList meldungen = h.meldungen();
         QCOMPARE(meldungen.size(), 1);
+        QCOMPARE(kopien("/beschaedigt").size(), 1);
         QVERIFY2(meldungen[0].contains("beschaedigt/" + kopien("/beschaedigt")[0]), qPrintable(meldungen[0]));
         QVERIFY(kopien().isEmpty());
     }
