@@ -9,7 +9,7 @@
 
 #include "pruefen.h"
 #include "state/cp1252.h"
-#include "state/saisonimport.h"
+#include "quellen/spielplan.h"
 #include "state/spieldatei.h"
 
 using namespace kalimbo;
