@@ -81,7 +81,8 @@ std::pair<json, std::vector<int>> parse(std::string_view bytes) {
         return {std::move(dokument), std::move(zeilen)};
     } catch (const json::parse_error& e) {
         if (std::string_view(e.what()).find("unexpected end of input") != std::string_view::npos)
-            throw Dateifehler("Die JSON-Daten brechen mitten in einem Wert ab; die Datei ist unvollständig.");
+            fehlerInZeile(zeileBei(bytes, bytes.size()),
+                          "Die JSON-Daten brechen mitten in einem Wert ab; die Datei ist unvollständig.");
         const std::size_t stelle = e.byte == 0 ? 0 : e.byte - 1;
         const std::size_t zeilenanfang = bytes.rfind('\n', stelle);
         const std::size_t zeichen =

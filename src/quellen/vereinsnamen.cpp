@@ -58,9 +58,8 @@ std::string ohneSprachmarke(std::string name) {
     return name;
 }
 
-}  // namespace
-
-std::string gefaltet(std::string_view name) {
+// The words of the folded name.
+std::vector<std::string> woerter(std::string_view name) {
     std::string zeichen;
     for (std::size_t i = 0; i < name.size();) {
         const auto c = naechstesZeichen(name, i);
@@ -69,21 +68,38 @@ std::string gefaltet(std::string_view name) {
         else
             ++i;
     }
-    std::vector<std::string> woerter, bedeutend;
+    std::vector<std::string> w;
     std::istringstream ein(zeichen);
     for (std::string wort; ein >> wort;) {
         for (const char* paar : {"ae", "oe", "ue"})
             for (auto pos = wort.find(paar); pos != std::string::npos; pos = wort.find(paar, pos + 1))
                 wort.erase(pos + 1, 1);
-        woerter.push_back(wort);
+        w.push_back(wort);
+    }
+    return w;
+}
+
+std::string verbunden(const std::vector<std::string>& woerter) {
+    std::string text;
+    for (const auto& wort : woerter)
+        text += (text.empty() ? "" : " ") + wort;
+    return text;
+}
+
+}  // namespace
+
+std::string gefaltet(std::string_view name) {
+    return verbunden(woerter(name));
+}
+
+std::string namenskern(std::string_view name) {
+    const std::vector<std::string> alle = woerter(name);
+    std::vector<std::string> bedeutend;
+    for (const auto& wort : alle)
         if (!nurZiffern(wort) &&
             std::find(Vereinsarten.begin(), Vereinsarten.end(), wort) == Vereinsarten.end())
             bedeutend.push_back(wort);
-    }
-    std::string ergebnis;
-    for (const auto& wort : bedeutend.empty() ? woerter : bedeutend)
-        ergebnis += (ergebnis.empty() ? "" : " ") + wort;
-    return ergebnis;
+    return verbunden(bedeutend.empty() ? alle : bedeutend);
 }
 
 void Vereinsnamen::lies(std::string_view liste) {

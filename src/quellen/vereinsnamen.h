@@ -10,10 +10,14 @@
 namespace kalimbo {
 
 // A name folded for comparison: lower case, accents and umlauts as their base letter (ü = ue =
-// u, ß = ss), apostrophes dropped, other punctuation as a space, and without the words that so
-// many club names carry that they tell nothing (FC, 1., SV, VfB, ...) and without numbers such as
-// a founding year; words separated by single spaces. "1. FC Köln" and "FC Koeln" both give "koln".
+// u, ß = ss), apostrophes dropped, other punctuation as a space; words separated by single
+// spaces. "1. FC Köln" gives "1 fc koln", "FC Koeln" gives "fc koln".
 std::string gefaltet(std::string_view name);
+
+// The folded name without the words that so many club names carry that they tell nothing (FC, 1.,
+// SV, VfB, ...) and without numbers such as a founding year, unless nothing else is left:
+// "1. FC Köln" and "FC Koeln" both give "koln".
+std::string namenskern(std::string_view name);
 
 // The clubs lists of openfootball: every club with its canonical name and its other names.
 class Vereinsnamen {
@@ -23,7 +27,7 @@ class Vereinsnamen {
     // names separated by "|" (a tag such as " [en]" is dropped), "ii)" begins the reserve team,
     // "#" begins a comment, "=" a heading, other indented lines are addresses.
     void lies(std::string_view liste);
-    // The clubs one of whose names folds as `name` does, as numbers in the order read.
+    // The clubs one of whose names folds (`gefaltet`) as `name` does, as numbers in the order read.
     std::set<int> vereine(std::string_view name) const;
 
   private:

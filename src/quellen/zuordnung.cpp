@@ -1,6 +1,7 @@
 #include "zuordnung.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace kalimbo {
 
@@ -23,12 +24,19 @@ double aehnlichkeit(const std::string& a, const std::string& b) {
                : 2.0 * static_cast<double>(gemeinsam.size()) / static_cast<double>(pa.size() + pb.size());
 }
 
-// The team of `teams` most like `name`; -1 for none.
-int aehnlichstes(const std::string& name, const std::vector<int>& teams, const Dateiinhalt& spiel) {
+bool gleicherVerein(const std::string& a, const std::string& b, const Vereinsnamen& vereine) {
+    const std::set<int> va = vereine.vereine(a), vb = vereine.vereine(b);
+    return std::any_of(va.begin(), va.end(), [&](int v) { return vb.count(v) > 0; });
+}
+
+// The team of `teams` most like `name`, one of the same club first; -1 for none.
+int aehnlichstes(const std::string& name, const std::vector<int>& teams, const Dateiinhalt& spiel,
+                 const Vereinsnamen& vereine) {
     int bestes = -1;
     double wert = -1;
     for (const int t : teams) {
-        const double w = aehnlichkeit(gefaltet(name), gefaltet(spiel.Teamname[t]));
+        const double w = aehnlichkeit(gefaltet(name), gefaltet(spiel.Teamname[t])) +
+                         (gleicherVerein(name, spiel.Teamname[t], vereine) ? 1 : 0);
         if (w > wert) {
             bestes = t;
             wert = w;
@@ -60,13 +68,10 @@ Zuordnung ordneZu(const std::vector<std::string>& namen, const Dateiinhalt& spie
     std::map<int, int> gewaehlt;  // team -> how many names fit only it
     for (const std::string& name : namen) {
         if (z.team.count(name)) continue;
-        const std::set<int> vereineDesNamens = vereine.vereine(name);
         Zuordnung::Offen offen{name, {}, -1};
         for (const int t : frei) {
-            const std::set<int> vereineDesTeams = vereine.vereine(spiel.Teamname[t]);
-            const bool gleicherVerein = std::any_of(vereineDesTeams.begin(), vereineDesTeams.end(),
-                                                    [&](int v) { return vereineDesNamens.count(v) > 0; });
-            if (gleicherVerein || gefaltet(name) == gefaltet(spiel.Teamname[t]))
+            const std::string& team = spiel.Teamname[t];
+            if (gleicherVerein(name, team, vereine) || namenskern(name) == namenskern(team))
                 offen.kandidaten.push_back(t);
         }
         if (offen.kandidaten.size() == 1) ++gewaehlt[offen.kandidaten[0]];
@@ -82,14 +87,12 @@ Zuordnung ordneZu(const std::vector<std::string>& namen, const Dateiinhalt& spie
     }
     z.offen = std::move(offen);
 
-    std::vector<int> nochFrei;
-    for (const int t : frei)
-        if (std::none_of(z.team.begin(), z.team.end(), [&](const auto& paar) { return paar.second == t; }))
-            nochFrei.push_back(t);
+    std::vector<int> alle(static_cast<std::size_t>(anzahl));
+    std::iota(alle.begin(), alle.end(), 0);
     int ohneTeam = 0;
     std::string ohneTeamNamen;
     for (auto& o : z.offen) {
-        o.vorschlag = aehnlichstes(o.name, o.kandidaten.empty() ? nochFrei : o.kandidaten, spiel);
+        o.vorschlag = aehnlichstes(o.name, o.kandidaten.empty() ? alle : o.kandidaten, spiel, vereine);
         if (!o.kandidaten.empty()) continue;
         ++ohneTeam;
         ohneTeamNamen += (ohneTeamNamen.empty() ? "„" : ", „") + o.name + "“";
