@@ -18,7 +18,7 @@ class Zuordnen : public testing::TestWithParam<Fall> {};
 TEST_P(Zuordnen, NachPaarNameUndVereinsliste) {
     Dateiinhalt spiel;
     spiel.AnzTeams = 3;
-    spiel.Teamname = {{"Eintracht Frankfurt", "FSV Frankfurt", "Kickers Offenbach", "Borussia Dortmund"}};
+    spiel.Teamname = {{"Eintracht Frankfurt", "FSV Frankfurt", "Kickers Offenbach", "1. FC Köln"}};
     const Zuordnung z =
         ordneZu(GetParam().namen, spiel, ladeVereinsnamen(KALIMBO_SAMPLE_DATA "/vereine"), GetParam().paare);
     std::string ist = z.andereLiga.empty() ? "" : "andere Liga ";
@@ -38,18 +38,16 @@ TEST_P(Zuordnen, NachPaarNameUndVereinsliste) {
 INSTANTIATE_TEST_SUITE_P(
     Faelle, Zuordnen,
     testing::Values(
-        Fall{{"Frankfurt", "Offenbach", "BVB"}, {}, "Frankfurt?01>0 Offenbach=2 BVB=3 "},
+        Fall{{"Frankfurt", "Offenbach", "Koeln"}, {}, "Frankfurt?01>0 Offenbach=2 Koeln=3 "},
         Fall{{"Frankfurt", "Eintracht Frankfurt"}, {}, "Frankfurt=1 Eintracht Frankfurt=0 "},
         Fall{{"Frankfurt", "Offenbach"}, {{"Frankfurt", 0}, {"Offenbach", 7}}, "Frankfurt=0 Offenbach=2 "},
-        Fall{{"Dortmund", "Bor. Dortmund", "FSV Frankfurt 1899"},
+        Fall{{"Köln", "FC Koln", "FSV Frankfurt 1899"}, {}, "Köln?3>3 FC Koln?3>3 FSV Frankfurt 1899=1 "},
+        Fall{{"Eintracht Frankfurt", "Eintr. Frankfurt", "Koln", "Offenbach"},
              {},
-             "Dortmund?3>3 Bor. Dortmund?3>3 FSV Frankfurt 1899=1 "},
-        Fall{{"Eintracht Frankfurt", "Eintr. Frankfurt", "Dortmund", "Offenbach"},
+             "Eintracht Frankfurt=0 Eintr. Frankfurt?>0 Koln=3 Offenbach=2 "},
+        Fall{{"Arsenal", "Chelsea", "Frankfurt", "Köln"},
              {},
-             "Eintracht Frankfurt=0 Eintr. Frankfurt?>0 Dortmund=3 Offenbach=2 "},
-        Fall{{"Arsenal", "Chelsea", "Frankfurt", "Dortmund"},
-             {},
-             "andere Liga Arsenal?>2 Chelsea?>2 Frankfurt?01>0 Dortmund=3 "}));
+             "andere Liga Arsenal?>2 Chelsea?>2 Frankfurt?01>0 Köln=3 "}));
 
 }  // namespace
 }  // namespace kalimbo
