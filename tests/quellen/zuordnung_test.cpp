@@ -17,8 +17,9 @@ class Zuordnen : public testing::TestWithParam<Fall> {};
 
 TEST_P(Zuordnen, NachPaarNameUndVereinsliste) {
     Dateiinhalt spiel;
-    spiel.AnzTeams = 3;
-    spiel.Teamname = {{"Eintracht Frankfurt", "FSV Frankfurt", "Kickers Offenbach", "1. FC Köln"}};
+    spiel.AnzTeams = 4;
+    spiel.Teamname = {
+        {"Eintracht Frankfurt", "FSV Frankfurt", "Kickers Offenbach", "1. FC Köln", "SV Fürth-Süd 1903"}};
     const Zuordnung z =
         ordneZu(GetParam().namen, spiel, ladeVereinsnamen(KALIMBO_SAMPLE_DATA "/vereine"), GetParam().paare);
     std::string ist = z.andereLiga.empty() ? "" : "andere Liga ";
@@ -38,7 +39,9 @@ TEST_P(Zuordnen, NachPaarNameUndVereinsliste) {
 INSTANTIATE_TEST_SUITE_P(
     Faelle, Zuordnen,
     testing::Values(
-        Fall{{"Frankfurt", "Offenbach", "Koeln"}, {}, "Frankfurt?01>0 Offenbach=2 Koeln=3 "},
+        Fall{{"Frankfurt", "Offenbach", "Koeln", "Fuerth Sued"},
+             {},
+             "Frankfurt?01>0 Offenbach=2 Koeln=3 Fuerth Sued=4 "},
         Fall{{"Frankfurt", "Eintracht Frankfurt"}, {}, "Frankfurt=1 Eintracht Frankfurt=0 "},
         Fall{{"Frankfurt", "Offenbach"}, {{"Frankfurt", 0}, {"Offenbach", 7}}, "Frankfurt=0 Offenbach=2 "},
         Fall{{"Köln", "FC Koln", "FSV Frankfurt 1899"}, {}, "Köln?3>3 FC Koln?3>3 FSV Frankfurt 1899=1 "},
