@@ -64,7 +64,10 @@ std::pair<json, std::vector<int>> parse(std::string_view bytes) {
     const char* bisher = bytes.data();
     int zeile = 1;
     auto merke = [&](int tiefe, json::parse_event_t ereignis, json& wert) {
-        if (tiefe == 1 && ereignis == json::parse_event_t::key) schluessel = wert.get<std::string>();
+        if (tiefe == 1 && ereignis == json::parse_event_t::key) {
+            schluessel = wert.get<std::string>();
+            if (schluessel == "matches") zeilen.clear();  // the last of two lists counts
+        }
         const bool anfang = ereignis == json::parse_event_t::object_start ||
                             ereignis == json::parse_event_t::array_start ||
                             ereignis == json::parse_event_t::value;
