@@ -4,7 +4,7 @@
 #include <stdexcept>
 
 #include "scoring/auswahl.h"
-#include "state/saisonimport.h"
+#include "quellen/spielplan.h"
 
 namespace kalimbo {
 

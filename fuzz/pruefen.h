@@ -40,3 +40,19 @@ void pruefeRueckweg(const std::string& bytes, const std::string& geschrieben, Li
     std::istringstream zurueck(geschrieben);
     pruefe(lies(zurueck) == gelesen, "read back differently");
 }
+
+// What a reader of fixture lists or result files accepted: two different team names, goals of
+// 0..99, rounds from 1, lines from 1 in file order.
+template <class Quelle>
+void pruefeSpiele(const Quelle& quelle) {
+    int zeile = 0;
+    for (const auto& s : quelle.spiele) {
+        pruefe(!s.heim.empty() && !s.gast.empty() && s.heim != s.gast, "team names empty or equal");
+        pruefe(
+            !s.tore || ((*s.tore)[0] >= 0 && (*s.tore)[0] <= 99 && (*s.tore)[1] >= 0 && (*s.tore)[1] <= 99),
+            "goals outside 0..99");
+        pruefe(!s.runde || *s.runde >= 1, "round below 1");
+        pruefe(s.zeile >= 1 && s.zeile >= zeile, "lines not ascending");
+        zeile = s.zeile;
+    }
+}

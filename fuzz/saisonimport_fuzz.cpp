@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "pruefen.h"
+#include "quellen/spielplan.h"
 #include "state/cp1252.h"
-#include "state/saisonimport.h"
 #include "state/spieldatei.h"
 
 using namespace kalimbo;

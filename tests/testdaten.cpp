@@ -7,7 +7,7 @@
 #include <sstream>
 #include <stdexcept>
 
-#include "state/saisonimport.h"
+#include "quellen/spielplan.h"
 
 namespace kalimbo::test {
 

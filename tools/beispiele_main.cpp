@@ -4,7 +4,7 @@
 #include <iostream>
 
 #include "beispielspiel.h"
-#include "state/saisonimport.h"
+#include "quellen/spielplan.h"
 #include "state/spieldatei.h"
 
 int main(int argc, char** argv) {

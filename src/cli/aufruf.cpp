@@ -24,9 +24,16 @@ Aufruf zerlege(const std::vector<std::string>& argumente, const std::vector<std:
         if (std::find(mitWert.begin(), mitWert.end(), arg) == mitWert.end())
             throw Gebrauchsfehler{"Unbekannte Option " + arg + "."};
         if (i + 1 >= argumente.size()) throw Gebrauchsfehler{"Der Option " + arg + " fehlt ihr Wert."};
-        a.optionen[arg] = argumente[++i];
+        a.optionen.emplace(arg, argumente[++i]);
     }
     return a;
+}
+
+std::vector<std::string> Aufruf::alle(const std::string& name) const {
+    std::vector<std::string> gegeben;
+    for (auto [it, ende] = optionen.equal_range(name); it != ende; ++it)
+        gegeben.push_back(it->second);
+    return gegeben;
 }
 
 void erwarteWerte(const Aufruf& a, std::size_t anzahl) {

@@ -14,14 +14,16 @@ struct Gebrauchsfehler {
     std::string meldung;
 };
 
-// The arguments of one command split into positional ones, "--name value" options and "--name"
-// switches.
+// The arguments of one command split into positional ones, "--name value" options (an option
+// given twice has both values, in order) and "--name" switches.
 struct Aufruf {
     std::vector<std::string> werte;
-    std::map<std::string, std::string> optionen;
+    std::multimap<std::string, std::string> optionen;
     std::set<std::string> schalter;
 
     bool hat(const std::string& schalterName) const { return schalter.count(schalterName) > 0; }
+    // Every value of option `name`, in the order given.
+    std::vector<std::string> alle(const std::string& name) const;
 };
 
 // Splits `argumente`; `mitWert` names the options that take a value, `schalter` the switches.

@@ -1,21 +1,19 @@
 #include "befehle.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <ostream>
-#include <sstream>
 
 #include "aufruf.h"
 #include "berichtsbefehl.h"
 #include "bogenbefehl.h"
+#include "ergebnisse.h"
 #include "grafik.h"
 #include "haeufigkeitstabelle.h"
 #include "info.h"
 #include "infoblaetter.h"
+#include "quellen/spielplan.h"
 #include "simulation.h"
-#include "state/dateilesen.h"
 #include "state/produkt.h"
-#include "state/saisonimport.h"
 #include "state/spieldatei.h"
 #include "tabellen.h"
 #include "zusammenfuehren.h"
@@ -23,8 +21,6 @@
 namespace kalimbo::cli {
 
 namespace {
-
-namespace fs = std::filesystem;
 
 constexpr const char* AuswertungsGebrauch =
     "AUSWERTUNG:\n"
@@ -41,28 +37,13 @@ int info(const std::vector<std::string>& argumente, std::ostream& aus) {
     return 0;
 }
 
-// "de1-2005-06.matches.csv" -> "de1-2005-06".
-std::string ligaAusDateiname(const fs::path& csv) {
-    std::string name = csv.stem().string();
-    const std::string zusatz = ".matches";
-    if (name.size() > zusatz.size() && name.ends_with(zusatz)) name.resize(name.size() - zusatz.size());
-    return name;
-}
-
 int neu(const std::vector<std::string>& argumente, std::ostream&) {
     const Aufruf a = zerlege(argumente, {"--liga"});
     erwarteWerte(a, 2);
-    const fs::path csv = a.werte[0];
-    // One byte beyond the limit lets the import say that the file is too large.
-    std::istringstream ein(leseDateianfang(csv, GroessteSaisondatei + 1).bytes);
-    const auto liga = a.optionen.count("--liga") ? a.optionen.at("--liga") : ligaAusDateiname(csv);
-    Dateiinhalt inhalt;
-    try {
-        inhalt = importiereSaison(ein, liga);
-    } catch (const Dateifehler& e) {
-        throw Dateifehler(csv.string() + ": " + e.what());
-    }
-    speichereSpieldatei(a.werte[1], inhalt);
+    const Quelle quelle = ladeQuelle(a.werte[0]);
+    const auto liga = a.optionen.find("--liga");
+    speichereSpieldatei(a.werte[1],
+                        neuesSpiel(quelle, liga != a.optionen.end() ? liga->second : quelle.liga));
     return 0;
 }
 
@@ -109,8 +90,17 @@ const std::vector<Befehl>& befehle() {
     static const std::vector<Befehl> alle{
         {"info",
          "info SPIEL.tip                         zeigt Liga, Mannschaften, Spieler, Regel und Auswahl", info},
-        {"neu", "neu SAISON.csv SPIEL.tip [--liga TEXT] legt ein neues Tippspiel aus einer Saisontabelle an",
+        {"neu",
+         "neu QUELLE SPIEL.tip [--liga TEXT]     legt ein neues Tippspiel aus einem Spielplan "
+         "(football.json)\n"
+         "                                         oder einer Saisontabelle an",
          neu},
+        {"ergebnisse",
+         "ergebnisse SPIEL.tip QUELLE [AUSGABE.tip] [--ersetzen] [--team \"QUELLE=SPIEL\"]...\n"
+         "                                         übernimmt die Ergebnisse eines Spielplans oder einer\n"
+         "                                         Ergebnisdatei (football-data.co.uk); --ersetzen auch\n"
+         "                                         abweichende, --team ordnet einen Namen der Datei zu",
+         ergebnisse},
         {"tabelle", "tabelle SPIEL.tip [AUSWERTUNG]         wertet aus und zeigt die Tabelle der Liga",
          tabelle},
         {"spieler",

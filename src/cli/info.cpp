@@ -2,29 +2,10 @@
 
 #include <ostream>
 
+#include "scoring/auswahl.h"
 #include "scoring/regeln.h"
 
 namespace kalimbo::cli {
-
-namespace {
-
-// "1-17, 20, 22-25" for the selected matchdays (1-based), "keine" when there are none.
-std::string auswahlText(const Spielstand& spiel) {
-    std::string text;
-    for (int tag = 0; tag <= spiel.AnzSpieltage; ++tag) {
-        if (spiel.SptgAuswerten[tag] != 1) continue;
-        int ende = tag;
-        while (ende < spiel.AnzSpieltage && spiel.SptgAuswerten[ende + 1] == 1)
-            ++ende;
-        if (!text.empty()) text += ", ";
-        text += std::to_string(tag + 1);
-        if (ende > tag) text += "-" + std::to_string(ende + 1);
-        tag = ende;
-    }
-    return text.empty() ? "keine" : text;
-}
-
-}  // namespace
 
 void schreibeInfo(const Spielstand& spiel, std::ostream& aus) {
     aus << "Liga: " << spiel.getLigaInfo() << '\n'
@@ -46,7 +27,10 @@ void schreibeInfo(const Spielstand& spiel, std::ostream& aus) {
         aus << "nicht gesetzt\n";
     else
         aus << spiel.AktSpieltagGlobal + 1 << '\n';
-    aus << "Ausgewählte Spieltage: " << auswahlText(spiel) << '\n';
+    std::vector<int> ausgewaehlt;
+    for (int tag = 0; tag <= spiel.AnzSpieltage; ++tag)
+        if (spiel.SptgAuswerten[tag] == 1) ausgewaehlt.push_back(tag);
+    aus << "Ausgewählte Spieltage: " << spieltagsbereiche(ausgewaehlt) << '\n';
 }
 
 }  // namespace kalimbo::cli

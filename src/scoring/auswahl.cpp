@@ -120,4 +120,17 @@ i16 letzterAusgewaehlterSpieltag(const Spielstand& s) {
     return 0;
 }
 
+std::string spieltagsbereiche(const std::vector<int>& tage) {
+    std::string text;
+    for (std::size_t i = 0; i < tage.size(); ++i) {
+        std::size_t ende = i;
+        while (ende + 1 < tage.size() && tage[ende + 1] == tage[ende] + 1)
+            ++ende;
+        text += (text.empty() ? "" : ", ") + std::to_string(tage[i] + 1);
+        if (ende > i) text += "-" + std::to_string(tage[ende] + 1);
+        i = ende;
+    }
+    return text.empty() ? "keine" : text;
+}
+
 }  // namespace kalimbo

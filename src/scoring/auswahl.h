@@ -2,6 +2,7 @@
 
 #include <bitset>
 #include <string>
+#include <vector>
 
 #include "state/spielstand.h"
 
@@ -44,5 +45,9 @@ Auswahlergebnis waehleTrainerperiode(Spielstand& s, int trainer);
 
 // The matchday a freshly opened game shows: the highest of 0..37 with SptgAuswerten 1, 0 if none.
 i16 letzterAusgewaehlterSpieltag(const Spielstand& s);
+
+// Matchday indices (ascending) as 1-based ranges: {0..16, 19, 21..24} gives "1-17, 20, 22-25";
+// "keine" when there are none.
+std::string spieltagsbereiche(const std::vector<int>& tage);
 
 }  // namespace kalimbo

@@ -8,9 +8,9 @@ namespace {
 using test::Lauf;
 using test::starte;
 
-const std::vector<std::string> Befehle{"info",          "neu",   "tabelle",     "spieler",  "zusammenfuehren",
-                                       "haeufigkeiten", "html",  "spielerinfo", "teaminfo", "simulation",
-                                       "vorhersage",    "grafik"};
+const std::vector<std::string> Befehle{
+    "info",        "neu",      "tabelle",    "spieler",    "zusammenfuehren", "haeufigkeiten", "html",
+    "spielerinfo", "teaminfo", "simulation", "vorhersage", "grafik",          "ergebnisse"};
 
 TEST(Hilfe, ListetJedenBefehlUndEndetMitNull) {
     for (const char* hilfe : {"--help", "-h"}) {

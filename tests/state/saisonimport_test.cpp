@@ -1,4 +1,4 @@
-#include "state/saisonimport.h"
+#include "quellen/spielplan.h"
 
 #include <gtest/gtest.h>
 

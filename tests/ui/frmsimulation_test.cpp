@@ -12,7 +12,7 @@
 #include "scoring/auswertung.h"
 #include "simulation/abweichung.h"
 #include "simulation/vorhersage.h"
-#include "state/saisonimport.h"
+#include "quellen/spielplan.h"
 #include "ui/bausteine/twips.h"
 
 using namespace kalimbo;
