@@ -49,11 +49,4 @@ int ganzeZahl(const std::string& text, int minimum, int maximum, const std::stri
     return wert;
 }
 
-Spielstand geoeffnetWieImFenster(const std::string& pfad) {
-    Spielstand spiel;
-    spiel.oeffne(ladeSpieldatei(pfad));
-    werteWieGeoeffnetAus(spiel, {});
-    return spiel;
-}
-
 }  // namespace kalimbo::cli

@@ -2,6 +2,7 @@
 
 #include <map>
 #include <set>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -10,8 +11,9 @@
 namespace kalimbo::cli {
 
 // Wrong use of the command line: the message (may be empty) is printed with the usage, exit 2.
-struct Gebrauchsfehler {
-    std::string meldung;
+class Gebrauchsfehler : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
 };
 
 // The arguments of one command split into positional ones, "--name value" options (an option
@@ -36,10 +38,5 @@ void erwarteWerte(const Aufruf& a, std::size_t anzahl);
 
 // A whole number argument in minimum..maximum; throws Gebrauchsfehler naming `was` otherwise.
 int ganzeZahl(const std::string& text, int minimum, int maximum, const std::string& was);
-
-// The game at `pfad` in the state the main window shows after opening it: the last selected
-// matchday shown, evaluated, and the matchday view drawn (non-participants' points of the shown
-// matchday read -1). Throws Dateifehler or Laufzeitfehler.
-Spielstand geoeffnetWieImFenster(const std::string& pfad);
 
 }  // namespace kalimbo::cli

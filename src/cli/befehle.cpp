@@ -12,6 +12,7 @@
 #include "info.h"
 #include "infoblaetter.h"
 #include "quellen/spielplan.h"
+#include "scoring/anzeige.h"
 #include "simulation.h"
 #include "state/produkt.h"
 #include "state/spieldatei.h"
@@ -31,9 +32,7 @@ constexpr const char* AuswertungsGebrauch =
 int info(const std::vector<std::string>& argumente, std::ostream& aus) {
     const Aufruf a = zerlege(argumente, {});
     erwarteWerte(a, 1);
-    Spielstand spiel;
-    spiel.oeffne(ladeSpieldatei(a.werte[0]));
-    schreibeInfo(spiel, aus);
+    schreibeInfo(ladeWieGezeigt(a.werte[0]), aus);
     return 0;
 }
 
@@ -60,10 +59,7 @@ Spielstand ausgewertet(const std::vector<std::string>& argumente) {
             throw Gebrauchsfehler{"--regel erwartet 0, 1, 2 oder 3, nicht „" + regel->second + "“."};
         optionen.regel = static_cast<i16>(regel->second[0] - '0');
     }
-    Spielstand spiel;
-    spiel.oeffne(ladeSpieldatei(a.werte[0]));
-    werteWieGeoeffnetAus(spiel, optionen);
-    return spiel;
+    return ladeWieGezeigt(a.werte[0], optionen);
 }
 
 int tabelle(const std::vector<std::string>& argumente, std::ostream& aus) {
@@ -181,7 +177,7 @@ int fuehreAus(const std::vector<std::string>& argumente, std::ostream& aus, std:
         }
         throw Gebrauchsfehler{argumente.empty() ? "" : "Unbekannter Befehl " + argumente[0] + "."};
     } catch (const Gebrauchsfehler& g) {
-        if (!g.meldung.empty()) fehler << g.meldung << '\n';
+        if (*g.what()) fehler << g.what() << '\n';
         schreibeGebrauch(fehler);
         return 2;
     } catch (const std::exception& e) {

@@ -2,6 +2,7 @@
 
 #include <ostream>
 
+#include "scoring/anzeige.h"
 #include "state/cp1252.h"
 
 namespace kalimbo::cli {
@@ -30,7 +31,7 @@ void gibAus(std::ostream& aus, const std::string& text, const Textausgabe& wie) 
 SpielUndIndex spielUndIndex(const Aufruf& a, int hoechsterIndex, const std::string& was) {
     erwarteWerte(a, 2);
     const int index = ganzeZahl(a.werte[1], 0, hoechsterIndex, was);
-    return {geoeffnetWieImFenster(a.werte[0]), index};
+    return {ladeWieGezeigt(a.werte[0]), index};
 }
 
 int berichtsbefehl(const std::vector<std::string>& argumente, std::ostream& aus, int hoechsterIndex,

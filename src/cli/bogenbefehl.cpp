@@ -2,29 +2,31 @@
 
 #include <ostream>
 
+#include "aufruf.h"
+#include "reports/bogenauftrag.h"
 #include "reports/bogenhtml.h"
 
 namespace kalimbo::cli {
 
-Spieltagsbogen bogenAusAufruf(const Aufruf& a) {
-    erwarteWerte(a, 1);
-    Bogenart art = Bogenart::Auswertung;
-    if (const auto name = a.optionen.find("--art"); name != a.optionen.end()) {
-        const auto gewaehlt = bogenartAusName(name->second);
-        if (!gewaehlt)
-            throw Gebrauchsfehler{"--art erwartet auswertung, live oder tippabgabe, nicht „" + name->second +
-                                  "“."};
-        art = *gewaehlt;
-    }
-    const Spielstand spiel = geoeffnetWieImFenster(a.werte[0]);
-    int spieltag = spiel.getAktSpieltag();
-    if (const auto nummer = a.optionen.find("--spieltag"); nummer != a.optionen.end())
-        spieltag = ganzeZahl(nummer->second, 1, spiel.getAnzSpieltage() + 1, "--spieltag") - 1;
-    return erstelleBogen(spiel, spieltag, art, heutigesDatum());
+namespace {
+
+std::optional<std::string> option(const Aufruf& a, const std::string& name) {
+    const auto wert = a.optionen.find(name);
+    if (wert == a.optionen.end()) return std::nullopt;
+    return wert->second;
 }
 
+}  // namespace
+
 int html(const std::vector<std::string>& argumente, std::ostream& aus) {
-    aus << bogenAlsHtml(bogenAusAufruf(zerlege(argumente, BogenOptionen)));
+    const Aufruf a = zerlege(argumente, {"--spieltag", "--art"});
+    erwarteWerte(a, 1);
+    try {
+        aus << bogenAlsHtml(
+            erstelleBogen(Bogenauftrag{a.werte[0], option(a, "--spieltag"), option(a, "--art")}));
+    } catch (const FalscheAngabe& f) {
+        throw Gebrauchsfehler(f.what());
+    }
     return 0;
 }
 

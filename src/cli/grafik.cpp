@@ -5,6 +5,7 @@
 #include "aufruf.h"
 #include "graph/punktegrafik.h"
 #include "graph/svg.h"
+#include "scoring/anzeige.h"
 
 namespace kalimbo::cli {
 
@@ -30,7 +31,7 @@ void schreibe(const grafik::Text& t, std::ostream& aus) {
 int zeigeGrafik(const std::vector<std::string>& argumente, std::ostream& aus) {
     const Aufruf a = zerlege(argumente, {"--ansicht"}, {"--zahlen", "--svg"});
     erwarteWerte(a, 1);
-    const Spielstand spiel = geoeffnetWieImFenster(a.werte[0]);
+    const Spielstand spiel = ladeWieGezeigt(a.werte[0]);
     grafik::Ansicht ansicht = grafik::ersteAnsicht(spiel);
     if (const auto wahl = a.optionen.find("--ansicht"); wahl != a.optionen.end())
         ansicht.Darstellung = static_cast<i16>(ganzeZahl(wahl->second, 0, 1, "--ansicht"));

@@ -4,6 +4,7 @@
 
 #include "aufruf.h"
 #include "reports/haeufigkeiten.h"
+#include "scoring/anzeige.h"
 
 namespace kalimbo::cli {
 
@@ -24,7 +25,7 @@ void schreibeHaeufigkeiten(const Spielstand& spiel, std::ostream& aus) {
 int haeufigkeiten(const std::vector<std::string>& argumente, std::ostream& aus) {
     const Aufruf a = zerlege(argumente, {});
     erwarteWerte(a, 1);
-    schreibeHaeufigkeiten(geoeffnetWieImFenster(a.werte[0]), aus);
+    schreibeHaeufigkeiten(ladeWieGezeigt(a.werte[0]), aus);
     return 0;
 }
 

@@ -8,14 +8,6 @@
 
 namespace kalimbo::cli {
 
-void werteWieGeoeffnetAus(Spielstand& spiel, const Auswertungsoptionen& optionen) {
-    spiel.AktSpieltag = letzterAusgewaehlterSpieltag(spiel);
-    if (optionen.regel) waehleRegel(spiel, *optionen.regel);
-    if (optionen.alle) waehleAlle(spiel);
-    werteAus(spiel, optionen.sonntag);
-    markiereNichtteilnehmer(spiel);
-}
-
 void schreibeTabelle(const Tabellenzeilen& tabelle, i16 anzTeams, std::ostream& aus) {
     for (int platz = 0; platz <= anzTeams; ++platz) {
         const Tabellenzeile& z = tabelle[teamAufPlatz(tabelle, anzTeams, platz)];

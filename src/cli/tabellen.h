@@ -7,18 +7,6 @@
 
 namespace kalimbo::cli {
 
-// What the evaluating commands may change about a game before evaluating it.
-struct Auswertungsoptionen {
-    bool alle = false;         // --alle: every matchday of the season instead of the file's selection
-    bool sonntag = false;      // --sonntag: leave out the Sunday matches of the current matchday
-    std::optional<i16> regel;  // --regel N: rule 0..3 instead of the file's
-};
-
-// Brings a freshly opened game into the state a user sees after opening it and pressing
-// "auswerten": shows the last selected matchday, applies the options, evaluates, and marks the
-// non-participants' points of the shown matchday as the matchday view does.
-void werteWieGeoeffnetAus(Spielstand& spiel, const Auswertungsoptionen& optionen);
-
 // A league table (rows 0..anzTeams, anzTeams the highest team index), one line per position, best
 // first: position (1-based), name, points, goals:against, difference, wins, draws, losses;
 // TAB-separated.

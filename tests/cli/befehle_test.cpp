@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "scoring/anzeige.h"
+
 #include <sstream>
 
 #include "cli/lauf.h"
@@ -148,9 +150,7 @@ TEST(Cli, SpielerNachRegelUndAuswahl) {
 
 TEST(Cli, AuswertungWieNachDemOeffnen) {
     test::TempOrdner ordner;
-    Spielstand spiel;
-    spiel.oeffne(ladeSpieldatei(tippspiel(ordner, {5, 2, 1})));
-    werteWieGeoeffnetAus(spiel, {});
+    const Spielstand spiel = ladeWieGezeigt(tippspiel(ordner, {5, 2, 1}));
     EXPECT_EQ(spiel.AktSpieltag, 9);  // the last selected matchday is shown
     EXPECT_EQ(spiel.getSpieltagPunkte(0, 9), 50);
     EXPECT_EQ(spiel.getSpieltagPunkte(4, 9), -1);  // not taking part, on the shown matchday

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "scoring/anzeige.h"
+
 #include <regex>
 
 #include "cli/aufruf.h"
@@ -23,7 +25,7 @@ class CliHtml : public testing::Test {
     void SetUp() override { test::speichereSpiel(test::kurzesSpiel(), pfad); }
     // The page of matchday `spieltag` (0-based) of the game as the window shows it.
     std::string seite(int spieltag, Bogenart art) const {
-        return bogenAlsHtml(erstelleBogen(geoeffnetWieImFenster(pfad), spieltag, art, "TT.MM.JJJJ"));
+        return bogenAlsHtml(erstelleBogen(ladeWieGezeigt(pfad), spieltag, art, "TT.MM.JJJJ"));
     }
     test::TempOrdner ordner;
     const std::string pfad = (ordner / "klein.tip").string();

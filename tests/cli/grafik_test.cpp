@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "scoring/anzeige.h"
+
 #include "cli/aufruf.h"
 #include "cli/lauf.h"
 #include "graph/punktegrafik.h"
@@ -135,7 +137,7 @@ TEST(CliGrafikSvg, DieselbeZeichnungAlsSvg) {
     const test::Lauf l = test::starte({"grafik", pfad, "--svg", "--zahlen"});
     EXPECT_EQ(l.code, 0);
     EXPECT_EQ(l.fehler, "");
-    const Spielstand spiel = geoeffnetWieImFenster(pfad);
+    const Spielstand spiel = ladeWieGezeigt(pfad);
     grafik::Ansicht ansicht = grafik::ersteAnsicht(spiel);
     ansicht.PunkteZeigen.fill(true);
     EXPECT_EQ(l.aus, grafik::alsSvg(grafik::punktegrafik(spiel, 1, ansicht)));

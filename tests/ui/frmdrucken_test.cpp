@@ -17,6 +17,7 @@
 #include <memory>
 #include <sstream>
 
+#include "app/pdfbefehl.h"
 #include "fenstertest.h"
 #include "graph/textbreite.h"
 #include "hauptfenster.h"
@@ -25,7 +26,6 @@
 #include "state/spieldatei.h"
 #include "ui/bausteine/elemente.h"
 #include "ui/bausteine/maler.h"
-#include "ui/pdfbefehl.h"
 
 using namespace kalimbo;
 using namespace kalimbo::ui;
@@ -225,7 +225,7 @@ class FrmDruckenTest : public ui::test::FensterTest<frmDrucken> {
             aufruf.push_back(o == "FEHLT" ? pfad("fehlt.tip").toStdString() : o.toStdString());
         if (!optionen.contains("FEHLT")) aufruf.push_back(pfad("klein.tip").toStdString());
         std::ostringstream fehler;
-        QCOMPARE(schreibePdf(aufruf, fehler), code);
+        QCOMPARE(app::schreibePdf(aufruf, fehler), code);
         QVERIFY2(QString::fromStdString(fehler.str()).startsWith(meldung), fehler.str().c_str());
         if (meldung.isEmpty()) QCOMPARE(QString::fromStdString(fehler.str()), QString());
         const QByteArray pdf = lies(pfad("aus.pdf"));

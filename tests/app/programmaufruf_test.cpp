@@ -3,9 +3,9 @@
 #include <QProcess>
 #include <QtTest>
 
-#include "ui/programmaufruf.h"
+#include "app/programmaufruf.h"
 
-using namespace kalimbo::ui;
+using namespace kalimbo::app;
 
 class ProgrammaufrufTest : public QObject {
     Q_OBJECT

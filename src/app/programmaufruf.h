@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace kalimbo::ui {
+namespace kalimbo::app {
 
 // What the command line of the program asks for, read before anything of Qt exists.
 struct Programmaufruf {
@@ -16,4 +16,4 @@ Programmaufruf leseProgrammaufruf(int argc, char** argv);
 // The program's usage, German, for "--help" and after a wrong command line.
 extern const char* const Programmhilfe;
 
-}  // namespace kalimbo::ui
+}  // namespace kalimbo::app

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-namespace kalimbo::ui {
+namespace kalimbo::app {
 
 const char* const Programmhilfe =
     "Aufruf: kalimbo [SPIEL.tip]\n"
@@ -29,4 +29,4 @@ Programmaufruf leseProgrammaufruf(int argc, char** argv) {
     return aufruf;
 }
 
-}  // namespace kalimbo::ui
+}  // namespace kalimbo::app
