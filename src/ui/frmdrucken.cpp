@@ -74,7 +74,7 @@ frmDrucken::frmDrucken(QWidget* eltern, Dialoge& dialoge) : QWidget(eltern), m_d
                                              rechteck(5760, 240 + static_cast<int>(i) * 525, 2280, 420));
         (this->*k.feld)->setText(QString::fromUtf8(k.beschriftung));
         connect(this->*k.feld, &QPushButton::clicked, this,
-                [this, h = k.handler] { fangeFehler(this, m_dialoge, [&] { (this->*h)(); }); });
+                sicher(this, m_dialoge, [this, h = k.handler] { (this->*h)(); }));
     }
     setFixedSize(px(8280), px(2580));
 }

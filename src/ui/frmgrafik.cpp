@@ -59,7 +59,8 @@ frmGrafik::frmGrafik(QWidget* eltern, Dialoge& dialoge) : QMainWindow(eltern), m
         schalter->setText(QString::fromUtf8(titel[i]));
         schalter->setAlignment(Qt::AlignCenter);
         schalter->setCursor(Qt::PointingHandCursor);
-        connect(schalter, &KlickLabel::geklickt, this, sicher([this, i] { lblSchalt_Click(i); }));
+        connect(schalter, &KlickLabel::geklickt, this,
+                sicher(this, m_dialoge, [this, i] { lblSchalt_Click(i); }));
         lblSchalt[i] = schalter;
     }
     zeigeSchalter(grafik::Gesamtpunkte);
@@ -75,10 +76,6 @@ frmGrafik::frmGrafik(QWidget* eltern, Dialoge& dialoge) : QMainWindow(eltern), m
                          {px(LegendeLinks + LegendeBreite + 165), px(BildOben + grafik::GrafikHoehe + 120)});
 }
 
-std::function<void()> frmGrafik::sicher(std::function<void()> handler) {
-    return [this, handler] { fangeFehler(this, m_dialoge, handler); };
-}
-
 void frmGrafik::erzeugeLegende(QWidget* mitte) {
     for (int p = 0; p < MaxSpieler; ++p) {
         lblSpieler[p] = element<QLabel>(mitte, indexName("lblSpieler", p), {});
@@ -92,11 +89,12 @@ void frmGrafik::erzeugeLegende(QWidget* mitte) {
 
         lblAnsicht[p] = element<KlickLabel>(mitte, indexName("lblAnsicht", p), {});
         lblAnsicht[p]->setToolTip(QStringLiteral("Linie dieses Spielers einblenden"));
-        connect(lblAnsicht[p], &KlickLabel::geklickt, this, sicher([this, p] { lblAnsicht_Click(p); }));
+        connect(lblAnsicht[p], &KlickLabel::geklickt, this,
+                sicher(this, m_dialoge, [this, p] { lblAnsicht_Click(p); }));
         lblPunkteZeigen[p] = element<KlickLabel>(mitte, indexName("lblPunkteZeigen", p), {});
         lblPunkteZeigen[p]->setToolTip(QStringLiteral("Punktzahl dieses Spielers anzeigen"));
         connect(lblPunkteZeigen[p], &KlickLabel::geklickt, this,
-                sicher([this, p] { lblPunkteZeigen_Click(p); }));
+                sicher(this, m_dialoge, [this, p] { lblPunkteZeigen_Click(p); }));
         for (KlickLabel* umschalter : {lblAnsicht[p], lblPunkteZeigen[p]}) {
             umschalter->setFrameStyle(QFrame::Box | QFrame::Plain);
             umschalter->setCursor(Qt::PointingHandCursor);
@@ -126,7 +124,8 @@ void frmGrafik::erzeugeMenue() {
     bild->setObjectName(QStringLiteral("menBild"));
     menSpeichern = bild->addAction(QStringLiteral("Speichern"));
     menSpeichern->setObjectName(QStringLiteral("menSpeichern"));
-    connect(menSpeichern, &QAction::triggered, this, sicher([this] { menSpeichern_Click(); }));
+    connect(menSpeichern, &QAction::triggered, this,
+            sicher(this, m_dialoge, [this] { menSpeichern_Click(); }));
     bild->addSeparator()->setObjectName(QStringLiteral("menStrich"));
     menDrucken = bild->addAction(QStringLiteral("Drucken"));
     menDrucken->setObjectName(QStringLiteral("menDrucken"));
@@ -147,7 +146,7 @@ void frmGrafik::folge(const Spielstand& spiel, const Aenderung&) {
     m_spiel = &spiel;
     passeUmschalterAn(spiel);
     zeigeUmschalter();
-    Redraw();
+    zeichneNeu();
 }
 
 void frmGrafik::passeUmschalterAn(const Spielstand& spiel) {
@@ -162,7 +161,8 @@ void frmGrafik::passeUmschalterAn(const Spielstand& spiel) {
 }
 
 bool frmGrafik::event(QEvent* ereignis) {
-    if (ereignis->type() == QEvent::WindowActivate && m_spiel) sicher([this] { Form_Activate(); })();
+    if (ereignis->type() == QEvent::WindowActivate && m_spiel)
+        fangeFehler(this, m_dialoge, [this] { Form_Activate(); });
     return QMainWindow::event(ereignis);
 }
 
@@ -189,27 +189,27 @@ void frmGrafik::Form_Activate() {
     zeigeUmschalter();
     m_ansicht.Darstellung = grafik::Gesamtpunkte;
     zeigeSchalter(grafik::Gesamtpunkte);
-    Redraw();
+    zeichneNeu();
 }
 
 void frmGrafik::lblSchalt_Click(int index) {
     zeigeSchalter(index);
     m_ansicht.Darstellung = static_cast<i16>(index);
-    Redraw();
+    zeichneNeu();
 }
 
 void frmGrafik::lblAnsicht_Click(int index) {
     auto& flag = m_ansicht.LinieZeigen[static_cast<std::size_t>(index)];
     flag = !flag;
     zeigeUmschalter();
-    Redraw();
+    zeichneNeu();
 }
 
 void frmGrafik::lblPunkteZeigen_Click(int index) {
     auto& flag = m_ansicht.PunkteZeigen[static_cast<std::size_t>(index)];
     flag = !flag;
     zeigeUmschalter();
-    Redraw();
+    zeichneNeu();
 }
 
 // The outline follows the pointer while only the left button is held.
@@ -279,7 +279,7 @@ void frmGrafik::setzeLegende(QPoint ursprung) {
     shpRahmen->hide();
 }
 
-void frmGrafik::Redraw() {
+void frmGrafik::zeichneNeu() {
     if (!m_spiel) return;
     const i16 spieltage = m_spiel->getAnzSpieltage();
     grafik::Zeichnung zeichnung = grafik::punktegrafik(*m_spiel, spieltage, m_ansicht);

@@ -57,7 +57,6 @@ class frmGrafik : public QMainWindow {
 
     void erzeugeLegende(QWidget* mitte);
     void erzeugeMenue();
-    std::function<void()> sicher(std::function<void()> handler);
 
     // Handlers.
     void Form_Activate();
@@ -72,7 +71,7 @@ class frmGrafik : public QMainWindow {
     void zeigeSchalter(int aktiv);
     void zeigeUmschalter();
     void setzeLegende(QPoint ursprung);
-    void Redraw();
+    void zeichneNeu();
 };
 
 }  // namespace kalimbo::ui

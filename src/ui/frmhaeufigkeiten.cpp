@@ -75,7 +75,7 @@ void frmHaeufigkeiten::erzeugeRaster() {
         zelle->setCursor(Qt::PointingHandCursor);
         zelle->setToolTip(QString::fromStdString(klassenName(klasse)));
         connect(zelle, &KlickLabel::geklickt, this,
-                [this, klasse] { fangeFehler(this, m_dialoge, [&] { lblErgebnis_Click(klasse); }); });
+                sicher(this, m_dialoge, [this, klasse] { lblErgebnis_Click(klasse); }));
         lblErgebnis[klasse] = zelle;
     }
 }

@@ -101,8 +101,7 @@ frmRegel::frmRegel(QWidget* eltern, Dialoge& dialoge) : QWidget(eltern), m_dialo
                                     rechteck(Festspalte + 600, ErsteZeile + 3 * Zeilenhoehe, 1320, 375));
     ok->setText(QStringLiteral("OK"));
     ok->setDefault(true);
-    connect(ok, &QPushButton::clicked, this,
-            [this] { fangeFehler(this, m_dialoge, [this] { cmdOK_Click(); }); });
+    connect(ok, &QPushButton::clicked, this, sicher(this, m_dialoge, [this] { cmdOK_Click(); }));
     setFixedSize(px(Festspalte + 2760), px(ErsteZeile + 3 * Zeilenhoehe + 600));
 }
 

@@ -95,9 +95,8 @@ void frmSimulation::erzeugeVorhersage() {
     cmbSpielerWahl = element<QComboBox>(fraVorhersage, QStringLiteral("cmbSpielerWahl"),
                                         rechteck(120, KopfOben, 2880, KopfHoehe));
     cmbSpielerWahl->setPlaceholderText(QStringLiteral("Spieler wählen"));
-    connect(cmbSpielerWahl, &QComboBox::textActivated, this, [this](const QString& name) {
-        fangeFehler(this, m_dialoge, [&] { cmbSpielerWahl_Click(name); });
-    });
+    connect(cmbSpielerWahl, &QComboBox::textActivated, this,
+            sicher(this, m_dialoge, [this](const QString& name) { cmbSpielerWahl_Click(name); }));
     m_vorhergesagt = new Ligatabelle(fraVorhersage, MaxTeams);
     m_vorhergesagt->move(0, px(TabelleOben));
     for (int z = 0; z < MaxTeams; ++z) {
@@ -108,9 +107,8 @@ void frmSimulation::erzeugeVorhersage() {
         lblPunkteDiff[z]->setAlignment(Qt::AlignCenter);
         lblPunkteDiff[z]->setToolTip(QStringLiteral("tatsächlich erreichte Punktzahl"));
     }
-    connect(m_vorhergesagt, &Ligatabelle::nameBetreten, this, [this](int zeile) {
-        fangeFehler(this, m_dialoge, [&] { lblTabName_MouseMove(MaxTeams + zeile); });
-    });
+    connect(m_vorhergesagt, &Ligatabelle::nameBetreten, this,
+            sicher(this, m_dialoge, [this](int zeile) { lblTabName_MouseMove(MaxTeams + zeile); }));
     const int linienBreite = PunkteDiffLinks + PunkteDiffBreite - LinieLinks;
     Line1 = linie(fraVorhersage, QStringLiteral("Line1"), KopflinieOben, linienBreite);
     linHori[0] = linie(fraVorhersage, indexName("linHori", 0), LinienEntwurf[0], linienBreite);
@@ -125,7 +123,7 @@ void frmSimulation::erzeugeTatsaechliche() {
     m_tatsaechlich = new Ligatabelle(fraTatsaechlich, 0);
     m_tatsaechlich->move(0, px(TabelleOben));
     connect(m_tatsaechlich, &Ligatabelle::nameBetreten, this,
-            [this](int zeile) { fangeFehler(this, m_dialoge, [&] { lblTabName_MouseMove(zeile); }); });
+            sicher(this, m_dialoge, [this](int zeile) { lblTabName_MouseMove(zeile); }));
     const int linienBreite = TatsaechlichBreite - 2 * LinieLinks;
     Line2 = linie(fraTatsaechlich, QStringLiteral("Line2"), KopflinieOben, linienBreite);
     linHori[1] = linie(fraTatsaechlich, indexName("linHori", 1), LinienEntwurf[1], linienBreite);

@@ -74,8 +74,7 @@ frmSpieler::frmSpieler(QWidget* eltern, Dialoge& dialoge) : QWidget(eltern), m_d
     cmdOK = element<QPushButton>(this, QStringLiteral("cmdOK"), rechteck(3840, unten + 720, 1320, 375));
     cmdOK->setText(QStringLiteral("OK"));
     cmdOK->setDefault(true);
-    connect(cmdOK, &QPushButton::clicked, this,
-            [this] { fangeFehler(this, m_dialoge, [this] { cmdOK_Click(); }); });
+    connect(cmdOK, &QPushButton::clicked, this, sicher(this, m_dialoge, [this] { cmdOK_Click(); }));
     setFixedSize(px(5400), px(unten + 1320));
 }
 

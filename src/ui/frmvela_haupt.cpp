@@ -5,6 +5,7 @@
 #include <QMenuBar>
 #include <QScreen>
 
+#include "scoring/anzeige.h"
 #include "scoring/auswertung.h"
 #include "scoring/regeln.h"
 #include "state/eintraege.h"
@@ -31,6 +32,13 @@
 #include "ui/haupt/tipptabellen.h"
 
 namespace kalimbo::ui {
+
+namespace {
+
+// The cause the running table names for an evaluation that no goal click started.
+const QString OhneAnlass = QStringLiteral("---");
+
+}  // namespace
 
 frmVela_Haupt::frmVela_Haupt(Dialoge& dialoge, const std::string& startdatei, QWidget* eltern)
     : QMainWindow(eltern), m_dialoge(dialoge) {
@@ -70,35 +78,24 @@ void frmVela_Haupt::baueFenster() {
     setzeRollbarenInhalt(this, mitte, {px(15360), px(10875)});
 }
 
-std::function<void()> frmVela_Haupt::sicher(std::function<void()> handler) {
-    return [this, handler = std::move(handler)] { fangeFehler(this, m_dialoge, handler); };
-}
-
-template <class... Argumente>
-auto frmVela_Haupt::sicherMit(void (frmVela_Haupt::*handler)(Argumente...)) {
-    return [this, handler](Argumente... argumente) {
-        fangeFehler(this, m_dialoge, [&] { (this->*handler)(argumente...); });
-    };
-}
-
 void frmVela_Haupt::verbinde(QAction* aktion, std::function<void()> handler) {
     connect(aktion, &QAction::triggered, this, sicher(std::move(handler)));
 }
 
 void frmVela_Haupt::verbindePanels() {
     connect(m_dokument, &Dokument::spielGeladen, this, sicher([this] { zeigeGeladenesSpiel(); }));
-    connect(m_wahl, &Spieltagswahl::spieltagGeklickt, this, sicherMit(&frmVela_Haupt::lblSpieltagWahl_Click));
-    connect(m_wahl, &Spieltagswahl::auswahlGeklickt, this, sicherMit(&frmVela_Haupt::lblAuswahl_Click));
-    connect(m_ansicht, &Spieltagsansicht::teamGeklickt, this, sicherMit(&frmVela_Haupt::lblTeam_Click));
-    connect(m_ansicht, &Spieltagsansicht::spielerGeklickt, this, sicherMit(&frmVela_Haupt::lblSpieler_Click));
+    connect(m_wahl, &Spieltagswahl::spieltagGeklickt, this, sicher(&frmVela_Haupt::lblSpieltagWahl_Click));
+    connect(m_wahl, &Spieltagswahl::auswahlGeklickt, this, sicher(&frmVela_Haupt::lblAuswahl_Click));
+    connect(m_ansicht, &Spieltagsansicht::teamGeklickt, this, sicher(&frmVela_Haupt::lblTeam_Click));
+    connect(m_ansicht, &Spieltagsansicht::spielerGeklickt, this, sicher(&frmVela_Haupt::lblSpieler_Click));
     connect(m_blitztabelle->tabelle(), &Ligatabelle::nameGeklickt, this,
-            sicherMit(&frmVela_Haupt::lblTabName_Click));
+            sicher(&frmVela_Haupt::lblTabName_Click));
     connect(m_ansicht, &Spieltagsansicht::bearbeitet, m_dokument, &Dokument::geaendert);
-    connect(m_dokument, &Dokument::spielGeaendert, this, sicherMit(&frmVela_Haupt::folgeInfobox));
+    connect(m_dokument, &Dokument::spielGeaendert, this, sicher(&frmVela_Haupt::folgeInfobox));
     connect(m_ansicht, &Spieltagsansicht::ueberlauf, this,
             [this] { m_dialoge.meldung(this, fehlermeldung(Laufzeitfehler(Laufzeitfehler::Ueberlauf))); });
     connect(m_bedienfeld, &Bedienfeld::uebernehmen, this, sicher([this] { cmdSonntag_Click(); }));
-    connect(m_bedienfeld, &Bedienfeld::auswerten, this, sicher([this] { auswerten(QStringLiteral("---")); }));
+    connect(m_bedienfeld, &Bedienfeld::auswerten, this, sicher([this] { auswerten(OhneAnlass); }));
 }
 
 void frmVela_Haupt::verbindeMenue() {
@@ -133,7 +130,7 @@ void frmVela_Haupt::verbindeMenue() {
     verbinde(m.menReg321, [this] { menReg_Click(2); });
     verbinde(m.menRegEigene, [this] { menRegEigene_Click(); });
     verbinde(m.menSpielerAe, [this] { menSpielerAe_Click(); });
-    verbinde(m.menAuswerten, [this] { auswerten(QStringLiteral("---")); });
+    verbinde(m.menAuswerten, [this] { auswerten(OhneAnlass); });
     verbinde(m.menBericht, [this] { m_infobox->exportiere(m_dialoge, m_spiel.getFussnote()); });
     verbinde(m.menHaeufigkeiten, [this] { fenster(m_frmHaeufigkeiten).zeige(m_spiel); });
     verbinde(m.menDrucken, [this] { fenster(m_frmDrucken).zeige(m_spiel); });
@@ -173,9 +170,10 @@ void frmVela_Haupt::oeffne(const std::string& pfad) {
 // The game just read (or recovered) is shown at once with the figures of an evaluation.
 void frmVela_Haupt::zeigeGeladenesSpiel() {
     wendeSpielAn();
-    auswerten(QStringLiteral("---"));
+    auswerten(OhneAnlass);
 }
 
+// The game as read shows its last selected matchday (oeffneWieGezeigt).
 void frmVela_Haupt::wendeSpielAn() {
     m_wahl->zeige(m_spiel);
     zeigeRegelhaken(m_menue, m_spiel.Modus);
@@ -184,10 +182,7 @@ void frmVela_Haupt::wendeSpielAn() {
     m_blitztabelle->wendeSpielAn(m_spiel);
     m_ansicht->zeigeSpielernamen(m_spiel);
     m_bedienfeld->zeige(m_spiel);
-    const int tag = letzterAusgewaehlterSpieltag(m_spiel);
-    m_wahl->hebeHervor(tag);
-    m_spiel.AktSpieltag = static_cast<i16>(tag);
-    ShowMatchday();
+    zeichneSpieltag();
 }
 
 void frmVela_Haupt::passeLayoutAn() {
@@ -199,24 +194,21 @@ void frmVela_Haupt::passeLayoutAn() {
     m_infobox->setzeHoehen(layout->rahmen, layout->infotext);
 }
 
-// Drawing a matchday marks the non-participants' points of it with -1 in the records, as the
-// figures read elsewhere expect.
-void frmVela_Haupt::ShowMatchday() {
-    markiereNichtteilnehmer(m_spiel);
+void frmVela_Haupt::zeichneSpieltag() {
+    m_wahl->hebeHervor(m_spiel);
     m_ansicht->zeige(m_spiel);
     m_tipptabellen->zeige(m_spiel);
 }
 
-void frmVela_Haupt::TakeEntries() {
+void frmVela_Haupt::nimmEintraege() {
     if (uebernimmEintraege(m_spiel, m_ansicht->eintraege())) m_dokument->melde({.daten = true});
 }
 
 // The boxes go back to the matchday they were drawn from before another one is shown.
 void frmVela_Haupt::lblSpieltagWahl_Click(int spieltag) {
-    TakeEntries();
-    m_wahl->hebeHervor(spieltag);
-    m_spiel.AktSpieltag = static_cast<i16>(spieltag);
-    ShowMatchday();
+    nimmEintraege();
+    zeigeSpieltag(m_spiel, spieltag);
+    zeichneSpieltag();
 }
 
 void frmVela_Haupt::lblAuswahl_Click(int spieltag) {
@@ -239,11 +231,11 @@ void frmVela_Haupt::werteAusMit(const Spieltagseintraege& eintraege, const QStri
     m_dokument->aendere(
         [&](Spielstand& s) {
             art.daten = uebernimmEintraege(s, eintraege) || art.daten;
-            werteAus(s, sonntag);
+            werteAusWieGezeigt(s, sonntag);
         },
         art);
     m_blitztabelle->zeige(m_spiel, anlass);
-    ShowMatchday();
+    zeichneSpieltag();
 }
 
 void frmVela_Haupt::lblTeam_Click(int spiel, int seite) {
@@ -278,7 +270,7 @@ Fenster& frmVela_Haupt::fenster(Fenster*& zeiger) {
 }
 
 void frmVela_Haupt::verbindeFenster(frmRegel* regel) {
-    connect(regel, &frmRegel::bestaetigt, this, sicherMit(&frmVela_Haupt::uebernimmEigeneRegel));
+    connect(regel, &frmRegel::bestaetigt, this, sicher(&frmVela_Haupt::uebernimmEigeneRegel));
 }
 
 void frmVela_Haupt::verbindeFenster(frmSpieler* spieler) {
@@ -298,9 +290,10 @@ void frmVela_Haupt::cmdSonntag_Click() {
         [&](Spielstand& s) {
             uebernimmEintraege(s, eintraege);
             uebernimmAktuellenSpieltag(s, aktuell, sonntag0, sonntag1);
+            markiereNichtteilnehmer(s);
         },
         {.daten = true});
-    ShowMatchday();
+    zeichneSpieltag();
 }
 
 void frmVela_Haupt::menReg_Click(i16 modus) {
@@ -335,9 +328,14 @@ void frmVela_Haupt::uebernimmEigeneRegel(const EigeneRegel& regel) {
 }
 
 void frmVela_Haupt::HoleSpielerDaten(const SpielerDatenQuelle& quelle) {
-    m_dokument->aendere([&](Spielstand& s) { s.HoleSpielerDaten(quelle); }, {.daten = true});
+    m_dokument->aendere(
+        [&](Spielstand& s) {
+            s.HoleSpielerDaten(quelle);
+            markiereNichtteilnehmer(s);
+        },
+        {.daten = true});
     m_ansicht->zeigeSpielernamen(m_spiel);
-    ShowMatchday();
+    zeichneSpieltag();
 }
 
 }  // namespace kalimbo::ui

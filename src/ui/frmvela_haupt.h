@@ -2,12 +2,14 @@
 
 #include <QMainWindow>
 #include <functional>
+#include <type_traits>
 
 #include "scoring/auswahl.h"
 #include "scoring/regeln.h"
 #include "state/eintraege.h"
 #include "state/spielstand.h"
 #include "ui/bausteine/aenderung.h"
+#include "ui/bausteine/fehlergrenze.h"
 #include "ui/haupt/hauptmenue.h"
 
 namespace kalimbo::ui {
@@ -79,18 +81,24 @@ class frmVela_Haupt : public QMainWindow {
     void verbindePanels();
     void verbindeMenue();
     void verbinde(QAction* aktion, std::function<void()> handler);
-    // Handlers run inside the error boundary: a core error is shown and the window keeps going.
-    std::function<void()> sicher(std::function<void()> handler);
-    template <class... Argumente>
-    auto sicherMit(void (frmVela_Haupt::*handler)(Argumente...));
+    // A handler inside the error boundary (ui::sicher): a core error is shown and the window keeps
+    // going. A member function is called on this window.
+    template <class Handler>
+    auto sicher(Handler handler) {
+        if constexpr (std::is_member_function_pointer_v<Handler>)
+            return ui::sicher(this, m_dialoge, std::bind_front(handler, this));
+        else
+            return ui::sicher(this, m_dialoge, std::move(handler));
+    }
 
     // The game on screen.
     void zeigeGeladenesSpiel();
     void wendeSpielAn();
     void passeLayoutAn();
-    void ShowMatchday();
+    // Draws the shown matchday (the view and the rankings); writes nothing into the game.
+    void zeichneSpieltag();
     // Takes the boxes into the game; announces the change when a value changed.
-    void TakeEntries();
+    void nimmEintraege();
     void lblSpieltagWahl_Click(int spieltag);
     void lblAuswahl_Click(int spieltag);
     void blaettere(int schritt);

@@ -3,6 +3,7 @@
 #include <QString>
 #include <exception>
 #include <functional>
+#include <type_traits>
 
 class QWidget;
 
@@ -18,5 +19,19 @@ QString fehlermeldung(const std::exception& fehler);
 // Runs one event handler. An error thrown by the core ends the handler and is shown in a message
 // box; the application keeps running.
 void fangeFehler(QWidget* eltern, Dialoge& dialoge, const std::function<void()>& handler);
+
+// `handler` as the slot of a connection: it runs inside fangeFehler, with the signal's arguments
+// where it takes them. Every handler of every window is connected this way.
+template <class Handler>
+auto sicher(QWidget* eltern, Dialoge& dialoge, Handler handler) {
+    return [eltern, &dialoge, handler = std::move(handler)](const auto&... argumente) {
+        fangeFehler(eltern, dialoge, [&] {
+            if constexpr (std::is_invocable_v<const Handler&, decltype(argumente)...>)
+                handler(argumente...);
+            else
+                handler();
+        });
+    };
+}
 
 }  // namespace kalimbo::ui

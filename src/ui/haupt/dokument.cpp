@@ -6,6 +6,8 @@
 #include <QWidget>
 #include <filesystem>
 
+#include "scoring/anzeige.h"
+#include "scoring/auswahl.h"
 #include "state/fehler.h"
 #include "state/spieldatei.h"
 #include "state/tippimport.h"
@@ -92,7 +94,7 @@ void Dokument::oeffne(const std::string& angabe) {
 // they were.
 void Dokument::oeffneUnter(const std::string& pfad, const QString& titel) {
     const Dateiinhalt inhalt = ladeSpieldatei(pfad);
-    aendere([&](Spielstand& s) { s.oeffne(inhalt); }, {.ersetzt = true});
+    aendere([&](Spielstand& s) { oeffneWieGezeigt(s, inhalt); }, {.ersetzt = true});
     setzeDatei(pfad);
     m_fenster->setWindowModified(false);
     m_sicherung.stop();
@@ -121,6 +123,7 @@ void Dokument::menTippdatei_Click() {
         [&](Spielstand& s) {
             uebernimmEintraege(s, eintraege);
             fuegeTippdateiEin(s, andere);
+            zeigeSpieltag(s, letzterAusgewaehlterSpieltag(s));
         },
         {.daten = true});
     merke(pfad, QFileInfo(pfad).fileName());
@@ -215,7 +218,7 @@ bool Dokument::stelleWiederHer() {
                 break;
         }
         m_wiederherstellung.uebernimm(std::move(fund));
-        aendere([&](Spielstand& s) { s.oeffne(kopie.inhalt); }, {.ersetzt = true, .daten = true});
+        aendere([&](Spielstand& s) { oeffneWieGezeigt(s, kopie.inhalt); }, {.ersetzt = true, .daten = true});
         setzeDatei(kopie.pfad);
         emit spielGeladen();
         return true;

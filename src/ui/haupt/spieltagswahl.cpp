@@ -30,7 +30,7 @@ Spieltagswahl::Spieltagswahl(QWidget* eltern) : QWidget(eltern) {
         lblAuswahl[tag] = auswahl;
     }
     resize(px(MaxSpieltage * 395 + 100), px(480));
-    hebeHervor(0);
+    hebeHervor(Spielstand());
 }
 
 void Spieltagswahl::zeige(const Spielstand& spiel) {
@@ -48,14 +48,16 @@ void Spieltagswahl::zeigeAuswahl(const Spielstand& spiel, const std::bitset<MaxS
             lblAuswahl[tag]->setAutoFillBackground(spiel.getSptgAuswerten(tag) == 1);
 }
 
-void Spieltagswahl::hebeHervor(int tag) {
-    KlickLabel* alt = lblSpieltagWahl[pruefeIndex(m_hervorgehoben, MaxSpieltage)];
-    setzeFarben(alt, Hellgelb, Qt::black);
-    setzeFett(alt, false);
-    KlickLabel* neu = lblSpieltagWahl[pruefeIndex(tag, MaxSpieltage)];
-    setzeFarben(neu, Rot, Qt::white);
-    setzeFett(neu, true);
-    m_hervorgehoben = tag;
+// Only the labels whose look changes are touched (as a rule the one shown before and the new one).
+void Spieltagswahl::hebeHervor(const Spielstand& spiel) {
+    pruefeIndex(spiel.getAktSpieltag(), MaxSpieltage);
+    for (int tag = 0; tag < MaxSpieltage; ++tag) {
+        KlickLabel* l = lblSpieltagWahl[tag];
+        const bool hervor = tag == spiel.getAktSpieltag();
+        if (l->font().bold() == hervor) continue;
+        setzeFarben(l, hervor ? Rot : Hellgelb, hervor ? Qt::white : Qt::black);
+        setzeFett(l, hervor);
+    }
 }
 
 }  // namespace kalimbo::ui

@@ -23,8 +23,8 @@ class Spieltagswahl : public QWidget {
     void zeige(const Spielstand& spiel);
     // The strips of the matchdays marked in `geaendert`, as the game now selects them.
     void zeigeAuswahl(const Spielstand& spiel, const std::bitset<MaxSpieltage>& geaendert);
-    // Highlights the number of matchday `tag` and returns the one highlighted before to normal.
-    void hebeHervor(int tag);
+    // Highlights the number of the matchday shown (AktSpieltag), the others in their normal look.
+    void hebeHervor(const Spielstand& spiel);
 
   signals:
     void spieltagGeklickt(int tag);
@@ -32,7 +32,6 @@ class Spieltagswahl : public QWidget {
 
   private:
     std::array<KlickLabel*, MaxSpieltage> lblSpieltagWahl{}, lblAuswahl{};
-    int m_hervorgehoben = 0;
 };
 
 }  // namespace kalimbo::ui
