@@ -5,8 +5,6 @@
 #include <QFileInfo>
 #include <QGroupBox>
 #include <QLabel>
-#include <QPrintDialog>
-#include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QPushButton>
@@ -110,11 +108,7 @@ void frmDrucken::cmdVorschau_Click() {
     const grafik::Zeichnung seite = zeichneBogen(bogen());
     QPrinter drucker(QPrinter::HighResolution);
     drucker.setPageLayout(seitenlayout(seite));
-    QPrintPreviewDialog vorschau(&drucker, this);
-    vorschau.setWindowTitle(QStringLiteral("Vorschau"));
-    connect(&vorschau, &QPrintPreviewDialog::paintRequested, this,
-            [&seite](QPrinter* ziel) { druckeSeite(*ziel, seite); });
-    vorschau.exec();
+    m_dialoge.druckvorschau(this, drucker, [&seite](QPrinter* ziel) { druckeSeite(*ziel, seite); });
 }
 
 void frmDrucken::cmdDrucken_Click() {
@@ -127,9 +121,7 @@ void frmDrucken::cmdDrucken_Click() {
     QPrinter drucker(QPrinter::HighResolution);
     drucker.setPageLayout(seitenlayout(seite));
     drucker.setDocName(titelVon(b));
-    QPrintDialog dialog(&drucker, this);
-    dialog.setWindowTitle(QStringLiteral("Drucken"));
-    if (dialog.exec() == QDialog::Accepted) druckeSeite(drucker, seite);
+    if (m_dialoge.drucken(this, drucker)) druckeSeite(drucker, seite);
 }
 
 void frmDrucken::cmdPDF_Click() {

@@ -1,6 +1,5 @@
 #include "frmsimulation.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QFontDatabase>
 #include <QFontMetricsF>
@@ -18,6 +17,7 @@
 #include "ui/bausteine/fehlergrenze.h"
 #include "ui/bausteine/klicklabel.h"
 #include "ui/bausteine/ligatabelle.h"
+#include "ui/bausteine/saisonform.h"
 #include "ui/bausteine/twips.h"
 
 namespace kalimbo::ui {
@@ -49,10 +49,6 @@ constexpr Layout Kurz{5295, 3255, 5520, 18};           // 34 matchdays
 // 19, or under row 17 in an 18-team league.
 constexpr std::array<int, 2> LinienEntwurf{5735, 5720}, Linien18{5255, 5240};
 
-const QColor Silbergrau(192, 192, 192);  // goals
-const QColor Hellgrau(224, 224, 224);    // goal difference
-const QColor Markierung(153, 204, 255);  // the figures of the team under the pointer
-
 // "Courier" where it is installed, otherwise the platform's fixed-pitch font.
 QFont festeSchrift() {
     if (QFontDatabase::hasFamily(QStringLiteral("Courier"))) return QFont(QStringLiteral("Courier"), 10);
@@ -71,10 +67,6 @@ QFrame* linie(QWidget* eltern, const QString& name, int oben, int breite) {
     l->setFrameShape(QFrame::HLine);
     l->setFrameShadow(QFrame::Plain);
     return l;
-}
-
-QColor fenstertext() {
-    return QApplication::palette().color(QPalette::Text);
 }
 
 }  // namespace
@@ -100,7 +92,7 @@ void frmSimulation::erzeugeVorhersage() {
     m_vorhergesagt = new Ligatabelle(fraVorhersage, MaxTeams);
     m_vorhergesagt->move(0, px(TabelleOben));
     for (int z = 0; z < MaxTeams; ++z) {
-        const QRect zeile = m_vorhergesagt->lblTabPunkte[z]->geometry().translated(m_vorhergesagt->pos());
+        const QRect zeile = m_vorhergesagt->zeilenOrt(z).translated(m_vorhergesagt->pos());
         lblPunkteDiff[z] =
             element<QLabel>(fraVorhersage, indexName("lblPunkteDiff", z),
                             QRect(px(PunkteDiffLinks), zeile.y(), px(PunkteDiffBreite), zeile.height()));
@@ -183,7 +175,7 @@ void frmSimulation::fuelleTatsaechlicheTabelle() {
 
 void frmSimulation::wendeLayoutAn() {
     // Keyed on the season's length, as the league files give it.
-    const Layout& layout = m_spiel->getAnzSpieltage() == 33 ? Kurz : Entwurf;
+    const Layout& layout = Saisonform::von(*m_spiel).laenge == Saisonform::Kurz ? Kurz : Entwurf;
     for (QGroupBox* r : {fraVorhersage, fraTatsaechlich})
         r->resize(r->width(), px(layout.rahmenHoehe));
     txtPunkteDiff->setGeometry(
@@ -208,7 +200,7 @@ void frmSimulation::baueNeu() {
     }
     txtPunkteDiff->setPlainText(
         text(abweichungsbericht(*m_spiel, m_spieler, m_vorhersage, QLocale().decimalPoint().toStdString())));
-    const auto& linien = m_spiel->getAnzTeams() == 17 ? Linien18 : LinienEntwurf;
+    const auto& linien = Saisonform::von(*m_spiel).achtzehnTeams ? Linien18 : LinienEntwurf;
     for (std::size_t i = 0; i < linHori.size(); ++i)
         linHori[i]->move(linHori[i]->x(), px(linien[i]));
     for (int index = 0; index < 2 * MaxTeams; ++index)
@@ -235,25 +227,7 @@ void frmSimulation::lblTabName_MouseMove(int index) {
 void frmSimulation::faerbeZeile(int index, bool markiert) {
     Ligatabelle* tabelle = index < MaxTeams ? m_tatsaechlich : m_vorhergesagt;
     const int z = static_cast<int>(pruefeIndex(index % MaxTeams, MaxTeams));
-    // The place's colour as the name's background, with the text in black or white, whichever
-    // reads on it.
-    const Farbe platzfarbe = m_spiel->getTabFarbe(z);
-    setzeFarben(tabelle->lblTabName[z], qfarbe(platzfarbe), qfarbe(schriftfarbeAuf(platzfarbe)));
-    setzeFett(tabelle->lblTabName[z], markiert);
-    const std::array<QLabel*, 5> uebrige{tabelle->lblTabTore[z], tabelle->lblTabDifferenz[z],
-                                         tabelle->lblTabSiege[z], tabelle->lblTabUn[z],
-                                         tabelle->lblTabNiederlagen[z]};
-    if (markiert) {
-        setzeFarben(tabelle->lblTabPunkte[z], Markierung, fenstertext());
-        for (QLabel* l : uebrige)
-            setzeFarben(l, Markierung, fenstertext());
-        return;
-    }
-    setzeFarben(tabelle->lblTabPunkte[z], Dunkelgrau, Qt::white);
-    setzeFarben(uebrige[0], Silbergrau, fenstertext());
-    setzeFarben(uebrige[1], Hellgrau, fenstertext());
-    for (std::size_t s = 2; s < uebrige.size(); ++s)
-        setzeFarben(uebrige[s], QApplication::palette().color(QPalette::Base), fenstertext());
+    tabelle->faerbeZeile(z, m_spiel->getTabFarbe(z), markiert);
 }
 
 }  // namespace kalimbo::ui

@@ -186,7 +186,7 @@ void frmVela_Haupt::wendeSpielAn() {
 }
 
 void frmVela_Haupt::passeLayoutAn() {
-    const auto layout = Saisonlayout::fuer(m_spiel.getAnzSpieltage());
+    const auto layout = Saisonlayout::fuer(Saisonform::von(m_spiel));
     if (!layout) return;
     m_ansicht->setzeLayout(*layout);
     for (QWidget* rahmen : {static_cast<QWidget*>(m_blitztabelle), static_cast<QWidget*>(m_tipptabellen)})

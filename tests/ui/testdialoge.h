@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QPageLayout>
+#include <QPrinter>
 #include <QStringList>
+#include <QTemporaryDir>
 
 #include "ui/bausteine/dialoge.h"
 
@@ -18,6 +21,8 @@ class TestDialoge : public Dialoge {
     QList<Antwort> jaNein;             // answers to the next questions; "Nein" when none is left
     QStringList speicherfragen;        // games asked about before they go
     QList<Antwort> speicherantworten;  // answers to those; "Verwerfen" (Nein) when none is left
+    QList<QByteArray> vorschauen;      // every print preview shown, as the PDF of its pages
+    int druckdialoge = 0;              // print dialogs shown, each cancelled
 
     QString oeffnen(QWidget*, const QString& t, const QString& f) override {
         titel << t;
@@ -34,6 +39,18 @@ class TestDialoge : public Dialoge {
     Antwort frage(QWidget*, const QString& text) override {
         fragen << text;
         return jaNein.isEmpty() ? Antwort::Nein : jaNein.takeFirst();
+    }
+    void druckvorschau(QWidget*, QPrinter& drucker, const std::function<void(QPrinter*)>& malen) override {
+        const QTemporaryDir ordner;
+        drucker.setOutputFormat(QPrinter::PdfFormat);
+        drucker.setOutputFileName(ordner.filePath("vorschau.pdf"));
+        malen(&drucker);
+        QFile pdf(drucker.outputFileName());
+        vorschauen << (pdf.open(QIODevice::ReadOnly) ? pdf.readAll() : QByteArray());
+    }
+    bool drucken(QWidget*, QPrinter&) override {
+        ++druckdialoge;
+        return false;
     }
     Antwort speichernFragen(QWidget*, const QString& name) override {
         speicherfragen << name;

@@ -3,6 +3,9 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
 #include <QPushButton>
 #include <array>
 #include <utility>
@@ -93,6 +96,20 @@ Dialoge::Antwort QtDialoge::speichernFragen(QWidget* eltern, const QString& name
                     {{{QMessageBox::Save, "&Speichern"},
                       {QMessageBox::Discard, "&Verwerfen"},
                       {QMessageBox::Cancel, "&Abbrechen"}}});
+}
+
+void QtDialoge::druckvorschau(QWidget* eltern, QPrinter& drucker,
+                              const std::function<void(QPrinter*)>& malen) {
+    QPrintPreviewDialog vorschau(&drucker, eltern);
+    vorschau.setWindowTitle(QStringLiteral("Vorschau"));
+    QObject::connect(&vorschau, &QPrintPreviewDialog::paintRequested, &vorschau, malen);
+    vorschau.exec();
+}
+
+bool QtDialoge::drucken(QWidget* eltern, QPrinter& drucker) {
+    QPrintDialog dialog(&drucker, eltern);
+    dialog.setWindowTitle(QStringLiteral("Drucken"));
+    return dialog.exec() == QDialog::Accepted;
 }
 
 }  // namespace kalimbo::ui

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 
+class QPrinter;
 class QWidget;
 
 namespace kalimbo::ui {
@@ -25,6 +27,11 @@ class Dialoge {
     // Whether to save the changes of the game named `name` before it goes: "Speichern" (Ja),
     // "Verwerfen" (Nein) or "Abbrechen"; Escape cancels.
     virtual Antwort speichernFragen(QWidget* eltern, const QString& name) = 0;
+    // The print preview of the pages `malen` paints on `drucker`; returns when it is closed.
+    virtual void druckvorschau(QWidget* eltern, QPrinter& drucker,
+                               const std::function<void(QPrinter*)>& malen) = 0;
+    // The print dialog for `drucker`; true when the user chose to print.
+    virtual bool drucken(QWidget* eltern, QPrinter& drucker) = 0;
 };
 
 // The real dialogs.
@@ -36,6 +43,9 @@ class QtDialoge : public Dialoge {
     void meldung(QWidget* eltern, const QString& text) override;
     Antwort frage(QWidget* eltern, const QString& text) override;
     Antwort speichernFragen(QWidget* eltern, const QString& name) override;
+    void druckvorschau(QWidget* eltern, QPrinter& drucker,
+                       const std::function<void(QPrinter*)>& malen) override;
+    bool drucken(QWidget* eltern, QPrinter& drucker) override;
 };
 
 // The game file to open (also to merge tips from, or to read coach periods from), as an absolute

@@ -1,7 +1,12 @@
 #include "ligatabelle.h"
 
+#include <QApplication>
+#include <algorithm>
+
 #include "elemente.h"
+#include "farben.h"
 #include "klicklabel.h"
+#include "reports/haeufigkeiten.h"
 #include "twips.h"
 
 namespace kalimbo::ui {
@@ -97,6 +102,34 @@ void Ligatabelle::zeigeZeilen(int anzahl) {
     for (int z = 0; z < MaxTeams; ++z)
         for (QLabel* l : zeile(z))
             l->setVisible(z < anzahl);
+}
+
+void Ligatabelle::setzePlatzfarbe(int z, Farbe farbe, std::string_view hinweis) {
+    QLabel* platz = lblTabellenplatz[pruefeIndex(z, MaxTeams)];
+    setzeFarben(platz, qfarbe(farbe), Qt::black);
+    if (!hinweis.empty())
+        platz->setToolTip(QString::fromUtf8(hinweis.data(), static_cast<qsizetype>(hinweis.size())));
+}
+
+void Ligatabelle::faerbeZeile(int z, Farbe platzfarbe, bool markiert) {
+    static const QColor Silbergrau(192, 192, 192), Hellgrau(224, 224, 224), Markierung(153, 204, 255);
+    const auto labels = zeile(static_cast<int>(pruefeIndex(z, MaxTeams)));
+    const QColor text = QApplication::palette().color(QPalette::Text);
+    // The name on the place's colour, in black or white, whichever reads on it.
+    setzeFarben(labels[1], qfarbe(platzfarbe), qfarbe(schriftfarbeAuf(platzfarbe)));
+    setzeFett(labels[1], markiert);
+    const QColor normal[] = {Dunkelgrau, Silbergrau, Hellgrau, QApplication::palette().color(QPalette::Base)};
+    for (std::size_t s = 2; s < labels.size(); ++s) {
+        if (markiert)
+            setzeFarben(labels[s], Markierung, text);
+        else
+            setzeFarben(labels[s], normal[std::min<std::size_t>(s - 2, 3)],
+                        s == 2 ? QColor(Qt::white) : text);
+    }
+}
+
+QRect Ligatabelle::zeilenOrt(int z) const {
+    return lblTabPunkte[pruefeIndex(z, MaxTeams)]->geometry();
 }
 
 namespace {

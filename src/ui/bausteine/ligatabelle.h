@@ -3,6 +3,7 @@
 #include <QWidget>
 #include <array>
 #include <optional>
+#include <string_view>
 
 #include "state/spielstand.h"
 
@@ -32,11 +33,14 @@ class Ligatabelle : public QWidget {
     void fuelle(const Spielstand& spiel);
     // Rows 0..anzahl-1 shown, the others hidden.
     void zeigeZeilen(int anzahl);
-
-    std::array<QLabel*, MaxTeams> lblTabellenplatz{};
-    std::array<KlickLabel*, MaxTeams> lblTabName{};
-    std::array<QLabel*, MaxTeams> lblTabPunkte{}, lblTabTore{}, lblTabDifferenz{}, lblTabSiege{}, lblTabUn{},
-        lblTabNiederlagen{};
+    // The place of row `zeile` in the colour of its position, with `hinweis` as its hint (an empty
+    // one keeps the hint the place had).
+    void setzePlatzfarbe(int zeile, Farbe farbe, std::string_view hinweis);
+    // Row `zeile` in its normal colours (the name on `platzfarbe`, the figures on their greys), or
+    // marked as the team the pointer is over: name bold, figures on light blue.
+    void faerbeZeile(int zeile, Farbe platzfarbe, bool markiert);
+    // Where row `zeile` lies in the table (pixels).
+    QRect zeilenOrt(int zeile) const;
 
   signals:
     void nameGeklickt(int zeile);
@@ -45,6 +49,11 @@ class Ligatabelle : public QWidget {
 
   private:
     std::array<QLabel*, 8> zeile(int z) const;
+
+    std::array<QLabel*, MaxTeams> lblTabellenplatz{};
+    std::array<KlickLabel*, MaxTeams> lblTabName{};
+    std::array<QLabel*, MaxTeams> lblTabPunkte{}, lblTabTore{}, lblTabDifferenz{}, lblTabSiege{}, lblTabUn{},
+        lblTabNiederlagen{};
 
     // What fuelle() drew into a row: the team and its row of the league table.
     struct Gezeigt {

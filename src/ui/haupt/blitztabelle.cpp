@@ -35,12 +35,8 @@ void Blitztabelle::wendeSpielAn(const Spielstand& spiel) {
     for (int z = 0; z < 18; ++z)
         m_tabelle->setzeZeile(z, {QString::number(z + 1), text(spiel.getTeamName(z))});
     m_tabelle->zeigeZeilen(spiel.getAnzTeams() + 1);
-    for (int z = 0; z <= spiel.getAnzTeams(); ++z) {
-        const Farbe farbe = spiel.getTabFarbe(z);
-        setzeFarben(m_tabelle->lblTabellenplatz[z], qfarbe(farbe), Qt::black);
-        if (const auto hinweis = positionsHinweis(farbe); !hinweis.empty())
-            m_tabelle->lblTabellenplatz[z]->setToolTip(QString::fromUtf8(hinweis.data(), hinweis.size()));
-    }
+    for (int z = 0; z <= spiel.getAnzTeams(); ++z)
+        m_tabelle->setzePlatzfarbe(z, spiel.getTabFarbe(z), positionsHinweis(spiel.getTabFarbe(z)));
 }
 
 void Blitztabelle::zeige(const Spielstand& spiel, const QString& anlass) {

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "state/zahl16.h"
+#include "ui/bausteine/saisonform.h"
 
 namespace kalimbo::ui {
 
@@ -17,10 +17,10 @@ struct Saisonlayout {
     int spieltagOben;  // top of each player's matchday points and place
     int gesamtOben;    // top of each player's total points and place
 
-    // The layout for the highest matchday index 37 or 33; none for any other (the layout stays).
-    static std::optional<Saisonlayout> fuer(i16 anzSpieltage) {
-        if (anzSpieltage == 37) return Saisonlayout{true, 5295, 4815, 4320, 3840, 4080};
-        if (anzSpieltage == 33) return Saisonlayout{false, 4815, 4335, 3960, 3480, 3740};
+    // The layout for a season of 38 or 34 matchdays; none for any other (the layout stays).
+    static std::optional<Saisonlayout> fuer(Saisonform form) {
+        if (form.laenge == Saisonform::Lang) return Saisonlayout{true, 5295, 4815, 4320, 3840, 4080};
+        if (form.laenge == Saisonform::Kurz) return Saisonlayout{false, 4815, 4335, 3960, 3480, 3740};
         return std::nullopt;
     }
 };
