@@ -8,8 +8,7 @@ namespace kalimbo::ui {
 // The three game files used last, newest first, each with the name shown in the menu. Kept in
 // the settings store under "zorb 5.0" / "Letzten Dateien": paths as "Datei1".."Datei3", names as
 // "Datei1b".."Datei3b".
-class ZuletztListe {
-  public:
+struct ZuletztListe {
     struct Eintrag {
         QString pfad, titel;
         friend bool operator==(const Eintrag&, const Eintrag&) = default;
