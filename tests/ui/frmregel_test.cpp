@@ -3,6 +3,7 @@
 #include <QLineEdit>
 
 #include "hauptfenster.h"
+#include "ui/bausteine/farben.h"
 #include "ui/frmregel.h"
 
 using namespace kalimbo;
@@ -54,8 +55,9 @@ class FrmRegelTest : public QObject {
         h.oeffneSpiel();
         const QString vorher = h.label("lblGesamtPunkte", Bernd)->text();  // 16 under 3-2-1
         oeffneFenster(h);
-        h.klick(h.label("lblFarbAlt", 5));  // kind 1 (margin), offered colour 2 (green)
-        QCOMPARE(flaeche(h, "lblFarbWahl", 1), QColor(48, 190, 48));
+        const QColor gewaehlt[] = {QColor(48, 190, 48), QColor(247, 25, 25), QColor(250, 250, 124)};
+        for (const int i : {2, 3, 7})  // kind i / 3 gets offered colour i % 3: each kind its own
+            h.klick(h.label("lblFarbAlt", i));
         punkte(h, 0)->setText(QStringLiteral("5"));
         punkte(h, 1)->clear();  // empty: 0 points
         punkte(h, 2)->setText(QStringLiteral("-1"));
@@ -64,8 +66,10 @@ class FrmRegelTest : public QObject {
         QCOMPARE(h.spiel().getModusPunkte(0), 5);
         QCOMPARE(h.spiel().getModusPunkte(1), 0);
         QCOMPARE(h.spiel().getModusPunkte(2), -1);
-        QCOMPARE(h.spiel().getModusFarbe(1), rgb(48, 190, 48));
-        QCOMPARE(h.spiel().getModusFarbe(0), rgb(255, 0, 0));
+        for (int art = 0; art < 3; ++art) {
+            QCOMPARE(flaeche(h, "lblFarbWahl", art), gewaehlt[art]);
+            QCOMPARE(qfarbe(h.spiel().getModusFarbe(art)), gewaehlt[art]);
+        }
         QCOMPARE(h.label("lblGesamtPunkte", Bernd)->text(), vorher);
         h.auswerten();  // Bernd: two margins (0) and four full hits (20) on his matchdays
         QCOMPARE(h.label("lblGesamtPunkte", Bernd)->text(), QStringLiteral("20"));

@@ -76,6 +76,11 @@ class FrmSpielerTest : public QObject {
         h.oeffneSpiel();
         const QString punkte = h.label("lblGesamtPunkte", Bernd)->text();
         frmSpieler* fenster = oeffneFenster(h);
+        h.kind<QLineEdit>("txtSpieler_1")->setText(QStringLiteral("Bernhard"));
+        fenster->close();  // closed without OK: nothing is handed over
+        QCOMPARE(h.spiel().getSpielerName(Bernd), std::string("Bernd"));
+        QVERIFY(!h.fenster->isWindowModified());
+        oeffneFenster(h);
         h.kind<QLineEdit>("txtSpieler_0")->setText(QString());
         h.kind<QLineEdit>("txtSpieler_1")->setText(QStringLiteral("Bärbel"));
         h.kind<QCheckBox>("chkTeilnehmer_2")->setChecked(true);
