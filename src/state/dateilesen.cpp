@@ -32,6 +32,7 @@ class Deskriptor {
     throw Dateifehler("Die Datei „" + pfad.string() + "“ konnte nicht geöffnet werden: " + grund);
 }
 
+// German reason for an error number of the operating system while reading.
 std::string grund(int fehler) {
     switch (fehler) {
         case ENOENT:
@@ -40,12 +41,8 @@ std::string grund(int fehler) {
         case EACCES:
         case EPERM:
             return "Sie darf nicht gelesen werden.";
-        case ELOOP:
-            return "Zu viele symbolische Verknüpfungen hintereinander (eine Schleife?).";
-        case ENAMETOOLONG:
-            return "Der Name ist zu lang.";
         default:
-            return "Das Betriebssystem meldet Fehler Nr. " + std::to_string(fehler) + ".";
+            return systemgrund(fehler);
     }
 }
 

@@ -31,7 +31,7 @@ constexpr int MaxVerknuepfungen = 40;
     throw Dateifehler("Die Datei „" + ziel.string() + "“ konnte nicht gespeichert werden: " + grund);
 }
 
-// German reason for an error number of the operating system.
+// German reason for an error number of the operating system while saving.
 std::string grund(int fehler) {
     switch (fehler) {
         case ENOENT:
@@ -40,21 +40,8 @@ std::string grund(int fehler) {
         case EACCES:
         case EPERM:
             return "Im Ordner darf nicht geschrieben werden.";
-        case EROFS:
-            return "Der Datenträger ist schreibgeschützt.";
-        case ENOSPC:
-        case EDQUOT:
-            return "Der Datenträger ist voll.";
-        case EFBIG:
-            return "Die Datei wäre größer, als erlaubt ist.";
-        case ENAMETOOLONG:
-            return "Der Name ist zu lang.";
-        case ELOOP:
-            return "Zu viele symbolische Verknüpfungen hintereinander (eine Schleife?).";
-        case EIO:
-            return "Ein-/Ausgabefehler des Datenträgers.";
         default:
-            return "Das Betriebssystem meldet Fehler Nr. " + std::to_string(fehler) + ".";
+            return systemgrund(fehler);
     }
 }
 

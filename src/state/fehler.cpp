@@ -1,5 +1,6 @@
 #include "fehler.h"
 
+#include <cerrno>
 #include <new>
 
 namespace kalimbo {
@@ -22,6 +23,26 @@ Laufzeitfehler::Laufzeitfehler(Code code) : std::runtime_error(text(code)), m_co
 
 Laufzeitfehler::Laufzeitfehler(Code code, const std::string& wobei)
     : std::runtime_error(text(code) + (" " + wobei)), m_code(code) {}
+
+std::string systemgrund(int nummer) {
+    switch (nummer) {
+        case EROFS:
+            return "Der Datenträger ist schreibgeschützt.";
+        case ENOSPC:
+        case EDQUOT:
+            return "Der Datenträger ist voll.";
+        case EFBIG:
+            return "Die Datei wäre größer, als erlaubt ist.";
+        case ENAMETOOLONG:
+            return "Der Name ist zu lang.";
+        case ELOOP:
+            return "Zu viele symbolische Verknüpfungen hintereinander (eine Schleife?).";
+        case EIO:
+            return "Ein-/Ausgabefehler des Datenträgers.";
+        default:
+            return "Das Betriebssystem meldet Fehler Nr. " + std::to_string(nummer) + ".";
+    }
+}
 
 std::string deutscheMeldung(const std::exception& e) {
     if (dynamic_cast<const Laufzeitfehler*>(&e) || dynamic_cast<const Dateifehler*>(&e)) return e.what();

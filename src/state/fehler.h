@@ -29,6 +29,10 @@ class Dateifehler : public std::runtime_error {
     explicit Dateifehler(const std::string& meldung) : std::runtime_error(meldung) {}
 };
 
+// The German reason for an error number of the operating system that reading and writing files
+// share (no space, a name too long, a loop of links, ...), as a sentence.
+std::string systemgrund(int nummer);
+
 // The German message for any exception that ends an operation: the text of the game's own errors;
 // for a lack of memory and for failures of the libraries underneath, whose texts are English,
 // a German sentence instead.
