@@ -58,7 +58,7 @@ Dokument::~Dokument() {
     if (m_zuletztSchreiben.isActive()) m_zuletzt.schreiben();
 }
 
-void Dokument::aendere(const std::function<void(Spielstand&)>& aenderung, Aenderung art) {
+void Dokument::aendere(const std::function<void(Spielstand&)>& aenderung, const Aenderung& art) {
     Spielstand neu = m_spiel;
     aenderung(neu);
     m_spiel = std::move(neu);

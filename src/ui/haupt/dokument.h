@@ -36,8 +36,8 @@ class Dokument : public QObject {
 
     // Runs `aenderung` on a copy of the game and puts the copy in its place only when it succeeds:
     // an operation that fails half-way (an overflow in an evaluation) leaves the game as it was.
-    // Then announces `art`.
-    void aendere(const std::function<void(Spielstand&)>& aenderung, Aenderung art);
+    // Then announces `art` as it stands then: the operation may add to what it names.
+    void aendere(const std::function<void(Spielstand&)>& aenderung, const Aenderung& art);
     // Announces a change already made in one step: the title's "*" and the recovery copy for a
     // change of the data, then spielGeaendert.
     void melde(Aenderung art);
