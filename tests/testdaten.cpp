@@ -151,22 +151,6 @@ void setzeAuswahl(Spielstand& s, std::string_view auswahl) {
     }
 }
 
-std::string crlf(std::string_view text) {
-    if (!text.empty() && text.front() == '\n') text.remove_prefix(1);
-    std::string ergebnis;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text.substr(i, 3) == "→") {
-            ergebnis += '\t';
-            i += 2;
-        } else if (text[i] == '\n') {
-            ergebnis += "\r\n";
-        } else {
-            ergebnis += text[i];
-        }
-    }
-    return ergebnis;
-}
-
 std::string leseBytes(const fs::path& pfad) {
     std::ifstream ein(pfad, std::ios::binary);
     return {std::istreambuf_iterator<char>(ein), std::istreambuf_iterator<char>()};

@@ -67,10 +67,6 @@ std::string fehler(F f) {
     return "";
 }
 
-// Text in test notation: "→" stands for a TAB and every line break for CR LF; a line break right
-// at the start is dropped, so a raw string literal can begin on its own line.
-std::string crlf(std::string_view text);
-
 std::string leseBytes(const std::filesystem::path& pfad);
 void schreibeBytes(const std::filesystem::path& pfad, const std::string& bytes);
 
