@@ -4,8 +4,8 @@
 
 #include <sstream>
 
-#include "state/dateifelder.h"
 #include "kurzesspiel.h"
+#include "state/dateifelder.h"
 
 namespace kalimbo {
 namespace {
