@@ -36,14 +36,10 @@ std::vector<std::vector<std::string>> leseCsv(const fs::path& pfad) {
     std::string zeile;
     std::getline(ein, zeile);  // header
     while (std::getline(ein, zeile)) {
-        std::vector<std::string> felder(1);
-        for (const char c : zeile) {
-            if (c == ',')
-                felder.emplace_back();
-            else
-                felder.back() += c;
-        }
-        zeilen.push_back(felder);
+        std::istringstream felder(zeile + ',');  // a last empty field too
+        auto& z = zeilen.emplace_back();
+        for (std::string feld; std::getline(felder, feld, ',');)
+            z.push_back(feld);
     }
     return zeilen;
 }

@@ -108,32 +108,21 @@ TEST_P(TabelleEchteSaison, ZeigtDieVeroeffentlichteAbschlusstabelle) {
 
 INSTANTIATE_TEST_SUITE_P(Daten, TabelleEchteSaison, testing::Values(test::Saison18, test::Saison20));
 
-// A game on the 20-team season in which every match ended 2:1, saved with the 3-2-1 rule but the
+// A game of 20 teams in which every match ended 2:1, saved with the 3-2-1 rule but the
 // points `punkte`; matchdays 0-9 selected, matchday 9 current with Sunday matches 0 and 1. Anna
 // tips every match exactly, Bernd the margin, Carl the tendency, Dora misses; Emil to Ida tip
 // exactly too but do not take part.
 std::string tippspiel(const test::TempOrdner& ordner, std::array<i16, 3> punkte) {
-    Spielstand s;
-    s.oeffne(test::saison(test::Saison20));
-    const std::array<const char*, MaxSpieler> namen{"Anna",  "Bernd",  "Carl",  "Dora", "Emil",
-                                                    "Frida", "Gustav", "Hanna", "Ida"};
-    const std::array<const char*, MaxSpieler> tipps{"2:1", "3:2", "5:0", "0:3", "2:1",
-                                                    "2:1", "2:1", "2:1", "2:1"};
-    const auto zehnmal = [](const std::string& tore) {
-        std::string text;
-        for (int spiel = 0; spiel < MaxSpiele; ++spiel)
-            text += tore + ' ';
-        return text;
-    };
-    for (int tag = 0; tag < MaxSpieltage; ++tag) {
-        test::setzeErgebnisse(s, tag, zehnmal("2:1"));
-        for (int p = 0; p < MaxSpieler; ++p)
-            test::setzeTipps(s, p, tag, zehnmal(tipps[p]));
-    }
-    for (int p = 0; p < MaxSpieler; ++p) {
-        s.Spielername[p] = namen[p];
-        s.Teilnehmer[p] = p < 4 ? 1 : 0;
-    }
+    Spielstand s = test::liga(std::vector<std::string>(20), 38, test::hinUndZurueck,
+                              "Anna Bernd Carl Dora -Emil -Frida -Gustav -Hanna -Ida");
+    const std::array<i16, 2> tipps[] = {{2, 1}, {3, 2}, {5, 0}, {0, 3}, {2, 1},
+                                        {2, 1}, {2, 1}, {2, 1}, {2, 1}};
+    for (int tag = 0; tag < MaxSpieltage; ++tag)
+        for (int spiel = 0; spiel < MaxSpiele; ++spiel) {
+            s.Ergebnis[tag][spiel] = {{2, 1}};
+            for (int p = 0; p < MaxSpieler; ++p)
+                s.Tipp[p][tag][spiel].werte = tipps[p];
+        }
     test::setzeAuswahl(s, "0-9");
     s.AktSpieltagGlobal = 9;
     s.SonntagSpiele = {{0, 1}};

@@ -1,6 +1,6 @@
-// werteAus against the plain evaluation of schlichte_auswertung.h on a few
-// hundred random games: every field of every record and table row must agree,
-// and where one throws the other must throw the same error with the same text.
+// werteAus against the plain evaluation of schlichte_auswertung.h on a few hundred random games: every field
+// of every record and table row must agree, and where one throws the other must throw the same error with the
+// same text.
 #include <gtest/gtest.h>
 
 #include <map>
@@ -28,18 +28,16 @@ class Zufall {
     std::mt19937 m_gen;
 };
 
-// Goals or points: mostly small, now and then (`extrem` per mille) one near the
-// 16-bit limits.
+// Goals or points: mostly small, now and then (`extrem` per mille) one near the 16-bit limits.
 i16 wert(Zufall& z, int klein, int extrem) {
     return static_cast<i16>(z.promille(extrem)
                                 ? z.eines({-32768, -20000, -9999, -1, 9999, 16384, 20000, 32767})
                                 : z.zahl(0, klein));
 }
 
-// A random game of 18 or 20 teams, most of it well inside the limits; a share
-// of the games has overflowing results, tips or own-rule points, few hits (so
-// that large points overflow only in some figures), stray or invalid team
-// indices, or an invalid count.
+// A random game of 18 or 20 teams, most of it well inside the limits; a share of the games has overflowing
+// results, tips or own-rule points, few hits (so that large points overflow only in some figures), stray or
+// invalid team indices, or an invalid count.
 Spielstand zufallsspiel(Zufall& z) {
     Spielstand s = test::kleinesSpiel(z.promille(500) ? 18 : 20);
     const int ergebnisExtrem = z.eines({0, 0, 0, 2, 20}), tippExtrem = z.eines({0, 0, 0, 1, 5});

@@ -10,11 +10,10 @@ namespace {
 
 using V = std::vector<int>;
 
-// Eight teams, four matches a matchday, three matchdays; 3-2-1 rule; all nine
-// slots take part. On matchday 0 (results 3:0 1:1 0:2 2:1) the tips give slot 0
-// 5 points, slot 1 7, slot 2 5, slot 3 3 and slots 4-8 nothing. On matchday 1
-// (all 1:0) nobody scores with the 0:0 tips left there; matchday 2 (all 2:2,
-// tipped so by everybody) is not selected.
+// Eight teams, four matches a matchday, three matchdays; 3-2-1 rule; all nine slots take part. On matchday 0
+// (results 3:0 1:1 0:2 2:1) the tips give slot 0 5 points, slot 1 7, slot 2 5, slot 3 3 and slots 4-8
+// nothing. On matchday 1 (all 1:0) nobody scores with the 0:0 tips left there; matchday 2 (all 2:2, tipped so
+// by everybody) is not selected.
 class Auswertung : public testing::Test {
   protected:
     void SetUp() override {
@@ -53,8 +52,7 @@ TEST_F(Auswertung, GleichePunkteTeilenDenPlatzUndUeberspringenDenNaechsten) {
     EXPECT_EQ(jeSpieler([](auto& a) { return a.SptgSortierplatz[1]; }), (V{0, 1, 2, 3, 4, 5, 6, 7, 8}));
     EXPECT_EQ(jeSpieler([](auto& a) { return a.Platzierungen[0]; }), (V{1, 2, 1, 1, 1, 1, 1, 1, 1}));
     EXPECT_EQ(jeSpieler([](auto& a) { return a.Platzierungen[4]; }), (V{0, 0, 0, 0, 1, 1, 1, 1, 1}));
-    // A tip counts for both teams of its match: slot 1 scored 0-1 exactly and 6-7
-    // by the margin.
+    // A tip counts for both teams of its match: slot 1 scored 0-1 exactly and 6-7 by the margin.
     const SpielerAuswertung& a = s.Auswertung[1];
     EXPECT_EQ((std::array{a.TeamPunkteKorrekt[0], a.TeamPunkteKorrekt[1], a.TeamPunkteDiff[6],
                           a.TeamPunkteDiff[7], a.TeamPunkteTendenz[5], a.TeamPunkte[2]}),

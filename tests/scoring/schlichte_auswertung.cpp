@@ -23,8 +23,7 @@ void pruefeBereich(Zahl wert, Zahl grenze) {
     if (wert < 0 || wert >= grenze) throw Laufzeitfehler(Laufzeitfehler::Index);
 }
 
-// 0 fully correct, 1 correct margin of a match that was not drawn, 2 correct
-// tendency, -1 none.
+// 0 fully correct, 1 correct margin of a match that was not drawn, 2 correct tendency, -1 none.
 int trefferArt(Zahl tippHeim, Zahl tippAus, Zahl heim, Zahl aus) {
     if (tippHeim == heim && tippAus == aus) return 0;
     if (tippHeim - tippAus == heim - aus && heim != aus) return 1;
@@ -36,23 +35,6 @@ bool gewertet(const Spielstand& s, bool sonntagsspieleAuslassen, int tag, int sp
     const bool sonntag = sonntagsspieleAuslassen && tag == s.AktSpieltagGlobal &&
                          (spiel == s.SonntagSpiele[0] || spiel == s.SonntagSpiele[1]);
     return s.SptgAuswerten[tag] == 1 && !sonntag;
-}
-
-void setzeZurueck(Spielstand& s) {
-    for (int p = 0; p < MaxSpieler; ++p) {
-        SpielerAuswertung a;
-        a.Sortierplatz = a.Platz = static_cast<i16>(p);
-        for (int tag = 0; tag < MaxSpieltage; ++tag) {
-            a.SptgSortierplatz[tag] = a.SptgPlatz[tag] = static_cast<i16>(p);
-            a.SpielFarbe[tag].fuelle(Weiss);
-            a.Korrekt[tag].fuelle(-1);
-        }
-        for (int t = 0; t < MaxTeams; ++t)
-            a.TeamSortierung[t] = static_cast<i16>(t);
-        s.Auswertung[p] = a;
-    }
-    for (int t = 0; t <= MaxTeams; ++t)
-        s.Tabelle[t] = {.Name = t < MaxTeams ? s.Teamname[t] : "", .Tabellenplatz = static_cast<i16>(t)};
 }
 
 void werteSpielerAus(Spielstand& s, bool sonntag, int p) {
@@ -116,8 +98,7 @@ void zaehle(Bilanz& b, Zahl eigene, Zahl andere) {
          b[4] + andere};
 }
 
-// Points (3 for a win, 1 for a draw) and the five counts into the six figures
-// of one side.
+// Points (3 for a win, 1 for a draw) and the five counts into the six figures of one side.
 void schreibe(const Bilanz& b, std::array<i16*, 6> ziel, const std::string& team) {
     const Zahl werte[6] = {3 * b[0] + b[1], b[0], b[1], b[2], b[3], b[4]};
     for (int i = 0; i < 6; ++i)
@@ -158,8 +139,7 @@ int teamAuf(const Spielstand& s, int platz) {
     return team;
 }
 
-// By points, goal difference and goals, as the literal bubble sort over the
-// positions.
+// By points, goal difference and goals, as the literal bubble sort over the positions.
 void sortiereTabelle(Spielstand& s) {
     pruefeBereich(s.AnzTeams, MaxTeams + 1);
     Zahl differenz[MaxTeams + 1] = {};
@@ -175,9 +155,8 @@ void sortiereTabelle(Spielstand& s) {
         }
 }
 
-// Sorts the nine slots by `punkte` into `sortierplatz` (8 passes, swaps on
-// strictly fewer points) and gives each the first position holding its points
-// as `platz`.
+// Sorts the nine slots by `punkte` into `sortierplatz` (8 passes, swaps on strictly fewer points) and gives
+// each the first position holding its points as `platz`.
 template <class Punkte, class Sortierplatz, class Platz>
 void rangiere(Spielstand& s, Punkte punkte, Sortierplatz sortierplatz, Platz platz) {
     auto aufPosition = [&](int n) {
@@ -216,9 +195,10 @@ void rangiereSpieler(Spielstand& s) {
 }  // namespace
 
 void werteSchlichtAus(Spielstand& s, bool sonntagsspieleAuslassen) {
-    setzeZurueck(s);
-    // A negative count leaves no matchday (or match) to evaluate; one past the
-    // arrays is an error.
+    s.verwirfAuswertung();
+    for (int t = 0; t < MaxTeams; ++t)
+        s.Tabelle[t].Name = s.Teamname[t];
+    // A negative count leaves no matchday (or match) to evaluate; one past the arrays is an error.
     if (s.AnzSpieltage >= MaxSpieltage || s.AnzSpiele >= MaxSpiele)
         throw Laufzeitfehler(Laufzeitfehler::Index);
     for (int tag = 0; tag <= s.AnzSpieltage; ++tag)

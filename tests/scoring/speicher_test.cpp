@@ -1,6 +1,6 @@
-// The program's own global operator new counts every allocation and fails one
-// on request: the evaluation runs on every goal click and must not touch the
-// heap, and a lack of memory must end a command with a German message.
+// The program's own global operator new counts every allocation and fails one on request: the evaluation runs
+// on every goal click and must not touch the heap, and a lack of memory must end a command with a German
+// message.
 #include <gtest/gtest.h>
 
 #include <atomic>
@@ -25,9 +25,8 @@ void* operator new(std::size_t groesse) {
     if (void* p = std::malloc(groesse == 0 ? 1 : groesse)) return p;
     throw std::bad_alloc();
 }
-// The nothrow form too (std::stable_sort's buffer uses it), so that every
-// operator delete below frees only what malloc gave; the sanitizers' own
-// nothrow new would not pair with free().
+// The nothrow form too (std::stable_sort's buffer uses it), so that every operator delete below frees only
+// what malloc gave; the sanitizers' own nothrow new would not pair with free().
 void* operator new(std::size_t groesse, const std::nothrow_t&) noexcept {
     try {
         return operator new(groesse);
@@ -35,10 +34,8 @@ void* operator new(std::size_t groesse, const std::nothrow_t&) noexcept {
         return nullptr;
     }
 }
-// Not inlined: gcc would otherwise see free() on what operator new returned and
-// warn of a mismatch
-// (-Wmismatched-new-delete), not knowing that this operator new takes its
-// memory from malloc().
+// Not inlined: gcc would otherwise see free() on what operator new returned and warn of a mismatch
+// (-Wmismatched-new-delete), not knowing that this operator new takes its memory from malloc().
 [[gnu::noinline]] void operator delete(void* p) noexcept {
     std::free(p);
 }

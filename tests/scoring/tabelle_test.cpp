@@ -7,9 +7,8 @@
 namespace kalimbo {
 namespace {
 
-// Points, goals and goals against of teams 0..3, and the order they end in,
-// best first. (The counting of the table is held against the plain evaluation
-// in aequivalenz_test.cpp.)
+// Points, goals and goals against of teams 0..3, and the order they end in, best first. (The counting of the
+// table is held against the plain evaluation in aequivalenz_test.cpp.)
 TEST(Tabelle, PunkteDannDifferenzDannToreDannMannschaft) {
     const std::pair<std::array<std::array<i16, 3>, 4>, std::array<i16, 4>> faelle[] = {
         {{{{1, 5, 0}, {3, 0, 5}, {0, 9, 0}, {2, 1, 1}}}, {1, 3, 0, 2}},  // points
@@ -40,8 +39,7 @@ TEST(Tabelle, PositionenMuessenEindeutigSein) {
     EXPECT_EQ(test::fehler([&] { sortiereTabelle(s.Tabelle, 3); }), "Index außerhalb des gültigen Bereichs");
     EXPECT_EQ(test::fehler([&] { sortiereTabelle(s.Tabelle, 21); }), "Index außerhalb des gültigen Bereichs");
     EXPECT_EQ(s.Tabelle, vorher);
-    // teamAufPlatz takes the last of several rows on one position, and team 0 for
-    // a position nobody holds.
+    // teamAufPlatz takes the last of several rows on one position, and team 0 for a position nobody holds.
     EXPECT_EQ((std::array{teamAufPlatz(s.Tabelle, 3, 0), teamAufPlatz(s.Tabelle, 2, 3)}),
               (std::array<i16, 2>{2, 0}));
 }

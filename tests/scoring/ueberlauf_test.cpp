@@ -9,9 +9,9 @@
 namespace kalimbo {
 namespace {
 
-// Three teams, one match a matchday, three matchdays, all counted and all won
-// 2:1 at home: Xanten - Ypsilon, Xanten - Zell, Ypsilon - Zell. Anna and Bernd
-// take part; nobody else does. `zwei`: each match twice a matchday.
+// Three teams, one match a matchday, three matchdays, all counted and all won 2:1 at home: Xanten - Ypsilon,
+// Xanten - Zell, Ypsilon - Zell. Anna and Bernd take part; nobody else does. `zwei`: each match twice a
+// matchday.
 Spielstand kleineLiga(bool zwei = false) {
     const test::Paarung paarung = [](int tag, int) { return std::array{tag == 2 ? 1 : 0, tag == 0 ? 1 : 2}; };
     Spielstand s = test::liga({"Xanten", "Ypsilon", "Zell"}, 3, paarung, "Anna Bernd");

@@ -14,8 +14,7 @@ TEST(Tastenfilter, NurZiffernUndRuecktasteKommenDurch) {
         EXPECT_EQ(tastenfilter(taste), (taste >= '0' && taste <= '9') || taste == 8 ? taste : '0') << taste;
 }
 
-// Boxes as the matchday view shows them: every result and tip "1", so that
-// changes stand out.
+// Boxes as the matchday view shows them: every result and tip "1", so that changes stand out.
 Spieltagseintraege volleKaesten() {
     Spieltagseintraege e;
     for (auto* kaesten : {&e.heimTipp, &e.ausTipp})

@@ -39,8 +39,8 @@ TEST(Saisonimport, UngespielteSpieleBleiben0Zu0UndWindowsZeilenenden) {
     EXPECT_EQ(d.Teamname[0], "Bayern München");
 }
 
-// Line 3 is the second match of matchday 1; Bayern already plays in line 2. The
-// return match of line 2 (Gladbach at home against Bayern) is line 155.
+// Line 3 is the second match of matchday 1; Bayern already plays in line 2. The return match of line 2
+// (Gladbach at home against Bayern) is line 155.
 TEST(Saisonimport, FehlerNennenDieZeile) {
     const std::vector<std::tuple<std::size_t, std::string, std::string>> faelle{
         {2, "1,Bayern München,1. FC Köln,1,0",

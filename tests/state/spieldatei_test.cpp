@@ -15,9 +15,8 @@ Dateiinhalt lies(const std::string& bytes) {
     return leseSpieldatei(ein, "test.tip");
 }
 
-// A game that uses every field with values that are easy to get wrong: umlauts
-// and the euro sign, negative numbers, colours with the high bit set, coach
-// records, tips of every player. Its bytes are the golden file
+// A game that uses every field with values that are easy to get wrong: umlauts and the euro sign, negative
+// numbers, colours with the high bit set, coach records, tips of every player. Its bytes are the golden file
 // spieldateien/voll.tip.
 Dateiinhalt volleDatei() {
     Dateiinhalt d = test::kleinesSpiel(20);
@@ -112,8 +111,8 @@ TEST(Spieldatei, HoechstensSoVielWieDieGroessteSpieldateiWirdGelesen) {
               "Tippspiel-Datei (höchstens " +
                   std::to_string(bytes.size()) + " Bytes).");
 
-    // 50 MB of zeros would read as a game with empty texts; it is refused after
-    // reading no more than the largest game file (and the next piece).
+    // 50 MB of zeros would read as a game with empty texts; it is refused after reading no more than the
+    // largest game file (and the next piece).
     Nullen nullen(50'000'000);
     std::istream ein(&nullen);
     EXPECT_THROW(leseSpieldatei(ein, "test.tip"), Dateifehler);

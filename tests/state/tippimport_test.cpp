@@ -10,9 +10,8 @@
 namespace kalimbo {
 namespace {
 
-// Ten matches each: 0:0 counts as empty, whatever the other file holds;
-// anything else stays. The same on the first and the last matchday, for the
-// results and for the tips of slots 0 and 8.
+// Ten matches each: 0:0 counts as empty, whatever the other file holds; anything else stays. The same on the
+// first and the last matchday, for the results and for the tips of slots 0 and 8.
 TEST(Tippimport, NurNullZuNullWirdErsetzt) {
     const std::array<const char*, 3> hier{"0:0 0:1 1:0 3:3 0:0 0:0 0:2 5:5 0:0 9:0",
                                           "2:1 2:1 2:1 2:1 0:0 1:1 0:0 0:0 0:3 1:0",
@@ -30,8 +29,7 @@ TEST(Tippimport, NurNullZuNullWirdErsetzt) {
     EXPECT_EQ(s[0].Tipp, s[2].Tipp);
 }
 
-// Changes every element of every file field: numbers and colours by one, texts
-// by a letter.
+// Changes every element of every file field: numbers and colours by one, texts by a letter.
 struct Veraenderer {
     void zahl(i16& z) { z = static_cast<i16>(z + 1); }
     void farbe(Farbe& f) { f ^= 1; }

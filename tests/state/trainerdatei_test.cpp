@@ -4,7 +4,6 @@
 
 #include <sstream>
 
-#include "scoring/auswahl.h"
 #include "state/spieldatei.h"
 #include "testdaten.h"
 
@@ -15,9 +14,9 @@ std::string zahl(i16 z) {
     return {static_cast<char>(z & 0xFF), static_cast<char>((z >> 8) & 0xFF)};
 }
 
-// Ten records as the file holds them: record i runs from matchday 3i to 3i + 2;
-// record 5 is not active, record 9 is open-ended and record 2 has a name with
-// an umlaut (Windows-1252). `vierter` replaces record 3 by (active, from, to).
+// Ten records as the file holds them: record i runs from matchday 3i to 3i + 2; record 5 is not active,
+// record 9 is open-ended and record 2 has a name with an umlaut (Windows-1252). `vierter` replaces record 3
+// by (active, from, to).
 std::string datensaetze(std::array<i16, 3> vierter = {1, 9, 11}) {
     std::string bytes;
     for (int i = 0; i < 10; ++i) {
@@ -48,12 +47,9 @@ TEST(Trainerdatei, LiestZehnDatensaetzeVomErstenByteAnWieDasLetzteFeldDerSpielda
                                static_cast<i16>(i == 9 ? 99 : 3 * i + 2)};
     EXPECT_EQ(lies(datensaetze() + "was danach folgt, zählt nicht"), d.Trainerwechsel);
     EXPECT_TRUE(kodiereSpieldatei(d).ends_with(datensaetze()));
-
-    Spielstand spiel;
-    spiel.Trainerwechsel = d.Trainerwechsel;
-    spiel.AktSpieltagGlobal = 30;
-    waehleTrainerperiode(spiel, 9);  // open: up to the current matchday
-    EXPECT_EQ(test::auswahl(spiel), "27-30");
+    test::TempOrdner ordner;
+    test::schreibeBytes(ordner / "trainer.dat", datensaetze());
+    EXPECT_EQ(ladeTrainerdatei(ordner / "trainer.dat"), d.Trainerwechsel);
 }
 
 TEST(Trainerdatei, ZuKurzeDateiWirdAbgelehnt) {
@@ -84,15 +80,6 @@ TEST(Trainerdatei, SpieltageEinesAktivenDatensatzesWerdenGeprueft) {
         EXPECT_EQ(fehlertext(datensaetze(datensatz)),
                   grund.empty() ? "" : "Die Datei „trainer.tip“ enthält keine Trainerwechsel-Daten: " + grund)
             << datensatz[1] << ".." << datensatz[2];
-}
-
-TEST(Trainerdatei, VonDerPlatteUndFehlendeDatei) {
-    test::TempOrdner ordner;
-    EXPECT_EQ(test::fehler([&] { ladeTrainerdatei(ordner / "fehlt.tip"); }),
-              "Die Datei „" + (ordner / "fehlt.tip").string() +
-                  "“ konnte nicht geöffnet werden: Sie existiert nicht.");
-    test::schreibeBytes(ordner / "trainer.dat", datensaetze());
-    EXPECT_EQ(ladeTrainerdatei(ordner / "trainer.dat"), lies(datensaetze()));
 }
 
 }  // namespace

@@ -1,7 +1,10 @@
+// The table a player's tips would have produced, and how far it lies from the real one.
+#include "simulation/abweichung.h"
 #include "simulation/vorhersage.h"
 
 #include <gtest/gtest.h>
 
+#include "reports/blattspiele.h"
 #include "testdaten.h"
 
 namespace kalimbo {
@@ -63,6 +66,52 @@ TEST(Vorhersage, SpielerWahl) {
     };
     for (const auto& [name, bisher, gewaehlt] : faelle)
         EXPECT_EQ(waehleSpieler(s, name, bisher), gewaehlt) << '"' << name << '"';
+}
+
+// A game of `teams` teams in which Anna predicts 1 point for every team (all matches of matchday 0
+// tipped 0:0) and the real table holds 1 - d[t] points, so that team t deviates by d[t] (0 for
+// the teams not named).
+Spielstand mitAbweichungen(int teams, const std::vector<i16>& d) {
+    Spielstand s = test::kleinesSpiel(teams);
+    test::setzeAuswahl(s, "0");
+    for (int t = 0; t < teams; ++t)
+        s.Tabelle[t].Punkte =
+            static_cast<i16>(1 - (t < static_cast<int>(d.size()) ? d[static_cast<std::size_t>(t)] : 0));
+    return s;
+}
+
+std::string bericht(const Spielstand& s, std::string_view trenner = ".") {
+    return abweichungsbericht(s, 0, vorhergesagteTabelle(s, 0), trenner);
+}
+
+// 20 teams with every kind of deviation; 18 teams all predicted exactly: every line with the sign
+// " ", the figures 0,00 and empty over- and under-rated groups without figures; every kind of
+// deviation sorted by size and aligned, the groups in team order.
+TEST(Abweichungsbericht, GoldeneBerichte) {
+    EXPECT_EQ(bericht(test::blattspiel20()), test::testdatei("berichte/simulation-20.txt"));
+    EXPECT_EQ(bericht(mitAbweichungen(18, {}), ","), test::testdatei("berichte/simulation-genau-18.txt"));
+    EXPECT_EQ(bericht(mitAbweichungen(20, {9, -10, 10, -9, 5, -5, 0, 1})),
+              test::testdatei("berichte/simulation-sortiert-20.txt"));
+    // The figures of all teams in double precision, those of a group in single precision: eight teams with
+    // the sum 9 (1.125 rounds up to 1.13); all 18 teams over-rated with squares summing to 3829 (the root of
+    // the single-precision quotient is 14.59, that of the double one 14.58); only under-rated teams.
+    EXPECT_EQ(bericht(mitAbweichungen(20, {1, 1, 1, 1, 1, 1, 1, 2})),
+              test::testdatei("berichte/simulation-acht-20.txt"));
+    std::vector<i16> alle(17, 15);
+    alle.push_back(2);
+    EXPECT_EQ(bericht(mitAbweichungen(18, alle)),
+              test::testdatei("berichte/simulation-ueberschaetzt-18.txt"));
+    EXPECT_EQ(bericht(mitAbweichungen(20, {-3, 0, -4})),
+              test::testdatei("berichte/simulation-unterschaetzt-20.txt"));
+}
+
+TEST(Abweichungsbericht, UeberlaufDerGesamtsummen) {
+    Spielstand differenz = mitAbweichungen(20, {});
+    differenz.Tabelle[4].Punkte = -32767;  // 1 - (-32767) leaves 16 bits
+    for (const Spielstand& s :
+         {mitAbweichungen(20, {0, 0, -182}),                       // the square of a deviation
+          mitAbweichungen(20, {100, -100, 100, 100}), differenz})  // the sum of the squares
+        EXPECT_EQ(test::fehler([&] { bericht(s); }), "Überlauf");
 }
 
 }  // namespace
