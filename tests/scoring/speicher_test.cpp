@@ -1,6 +1,5 @@
-// The program's own global operator new counts every allocation and fails one on request: the evaluation runs
-// on every goal click and must not touch the heap, and a lack of memory must end a command with a German
-// message.
+// This program's global operator new counts every allocation and fails one on request: the evaluation runs on
+// every goal click and must not touch the heap; a lack of memory ends a command with a German message.
 #include <gtest/gtest.h>
 
 #include <atomic>

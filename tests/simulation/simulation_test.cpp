@@ -12,8 +12,8 @@ namespace {
 
 class VorhersageEchteSaison : public testing::TestWithParam<const char*> {};
 
-// Tips that equal the results predict the real table: every counter, the order with its ties and
-// the rows beyond the league, as the league table counts them independently.
+// Tips that equal the results predict the real table: every counter, the order with its ties and the rows
+// beyond the league, as the league table counts them independently.
 TEST_P(VorhersageEchteSaison, TippsGleichErgebnissenErgebenDieEchteTabelle) {
     Spielstand s;
     s.oeffne(test::saison(GetParam()));
@@ -28,8 +28,8 @@ TEST_P(VorhersageEchteSaison, TippsGleichErgebnissenErgebenDieEchteTabelle) {
 
 INSTANTIATE_TEST_SUITE_P(Daten, VorhersageEchteSaison, testing::Values(test::Saison18, test::Saison20));
 
-// Matchday 0 of the 18-team game pairs 17-0, 1-16, 2-15, ... 8-9. Anna tips every home team to win
-// 1:0; in reality every away team won 0:2. Equal in points, difference and goals: team order.
+// Matchday 0 of the 18-team game pairs 17-0, 1-16, 2-15, ... 8-9. Anna tips every home team to win 1:0; in
+// reality every away team won 0:2. Equal in points, difference and goals: team order.
 TEST(Vorhersage, PlaetzeMitDenTatsaechlichenPunkten) {
     Spielstand s = test::kleinesSpiel(18);
     test::setzeAuswahl(s, "0");
@@ -68,9 +68,8 @@ TEST(Vorhersage, SpielerWahl) {
         EXPECT_EQ(waehleSpieler(s, name, bisher), gewaehlt) << '"' << name << '"';
 }
 
-// A game of `teams` teams in which Anna predicts 1 point for every team (all matches of matchday 0
-// tipped 0:0) and the real table holds 1 - d[t] points, so that team t deviates by d[t] (0 for
-// the teams not named).
+// A game of `teams` teams in which Anna predicts 1 point for every team (all matches of matchday 0 tipped
+// 0:0) and the real table holds 1 - d[t] points, so that team t deviates by d[t] (0 for the teams not named).
 Spielstand mitAbweichungen(int teams, const std::vector<i16>& d) {
     Spielstand s = test::kleinesSpiel(teams);
     test::setzeAuswahl(s, "0");
@@ -84,9 +83,9 @@ std::string bericht(const Spielstand& s, std::string_view trenner = ".") {
     return abweichungsbericht(s, 0, vorhergesagteTabelle(s, 0), trenner);
 }
 
-// 20 teams with every kind of deviation; 18 teams all predicted exactly: every line with the sign
-// " ", the figures 0,00 and empty over- and under-rated groups without figures; every kind of
-// deviation sorted by size and aligned, the groups in team order.
+// 20 teams with every kind of deviation; 18 teams all predicted exactly: every line with the sign " ", the
+// figures 0,00 and empty over- and under-rated groups without figures; every kind of deviation sorted by size
+// and aligned, the groups in team order.
 TEST(Abweichungsbericht, GoldeneBerichte) {
     EXPECT_EQ(bericht(test::blattspiel20()), test::testdatei("berichte/simulation-20.txt"));
     EXPECT_EQ(bericht(mitAbweichungen(18, {}), ","), test::testdatei("berichte/simulation-genau-18.txt"));

@@ -48,20 +48,16 @@ TEST(Saisonimport, FehlerNennenDieZeile) {
         {2, "1,MSV Duisburg,MSV Duisburg,1,1",
          "Zeile 3: „MSV Duisburg“ kann nicht gegen sich selbst spielen."},
         {5, "35,Hamburger SV,1. FC Nürnberg,3,0",
-         "Zeile 6: Einen 35. Spieltag gibt es bei 18 Mannschaften nicht "
-         "(höchstens 34)."},
+         "Zeile 6: Einen 35. Spieltag gibt es bei 18 Mannschaften nicht (höchstens 34)."},
         {4, "1,1. FC Köln,1. FSV Mainz 05,1",
-         "Zeile 5: Es werden 5 Felder erwartet "
-         "(matchday,home,away,home_goals,away_goals), gefunden 4."},
+         "Zeile 5: Es werden 5 Felder erwartet (matchday,home,away,home_goals,away_goals), gefunden 4."},
         {4, "1,1. FC Köln,1. FSV Mainz 05,1,", "Zeile 5: Es sind nur die Tore einer Mannschaft eingetragen."},
         {4, "1,1. FC Köln,1. FSV Mainz 05,1,-2", "Zeile 5: „1:-2“ ist kein gültiges Ergebnis."},
         {4, "erster,1. FC Köln,1. FSV Mainz 05,1,0", "Zeile 5: „erster“ ist keine gültige Spieltagsnummer."},
         {0, "spieltag,heim,gast,tore_heim,tore_gast",
-         "Zeile 1: Die Kopfzeile muss „matchday,home,away,home_goals,away_goals“ "
-         "lauten."},
+         "Zeile 1: Die Kopfzeile muss „matchday,home,away,home_goals,away_goals“ lauten."},
         {154, "18,Bayern München,Bor. Mönchengladbach,1,1",
-         "Zeile 155: Das Spiel „Bayern München“ gegen „Bor. Mönchengladbach“ "
-         "steht schon in Zeile 2."},
+         "Zeile 155: Das Spiel „Bayern München“ gegen „Bor. Mönchengladbach“ steht schon in Zeile 2."},
     };
     const auto echt = echteZeilen();
     ASSERT_TRUE(echt[154].starts_with("18,Bor. Mönchengladbach,Bayern München,"));
@@ -81,24 +77,19 @@ TEST(Saisonimport, NurLigenMit18Oder20MannschaftenUndSpeicherbareTexte) {
         viele.push_back("1,T" + std::to_string(2 * i) + ",T" + std::to_string(2 * i + 1) + ",0,0");
     const std::vector<std::pair<std::string, std::string>> faelle{
         {importFehler({Kopf, "1,A,B,1,0", "1,C,D,0,0", "2,B,C,,", "2,D,A,,"}),
-         "Die Saison hat 4 Mannschaften; eine Tippspiel-Datei fasst nur Ligen "
-         "mit 18 oder 20 Mannschaften."},
+         "Die Saison hat 4 Mannschaften; eine Tippspiel-Datei fasst nur Ligen mit 18 oder 20 Mannschaften."},
         {importFehler(viele),
-         "Zeile 12: „T20“ ist die 21. Mannschaft; eine "
-         "Tippspiel-Datei fasst höchstens 20."},
+         "Zeile 12: „T20“ ist die 21. Mannschaft; eine Tippspiel-Datei fasst höchstens 20."},
         {importFehler({Kopf}), "Die Saisondatei enthält keine Spiele."},
         {importFehler({Kopf, "1,A,B,1,0", "1,Łódź,C,0,0"}),
-         "Zeile 3: Der Text „Łódź“ enthält das Zeichen „Ł“ (U+0141), das eine "
-         "Tippspiel-Datei nicht speichern "
-         "kann. Bitte ersetzen Sie es."},
+         "Zeile 3: Der Text „Łódź“ enthält das Zeichen „Ł“ (U+0141), das eine Tippspiel-Datei nicht "
+         "speichern kann. Bitte ersetzen Sie es."},
         {importFehler({Kopf, "1,A,\xFF\xFE,1,0"}),
-         "Zeile 2: Der Text „\xFF\xFE“ ist kein gültiger UTF-8-Text und kann "
-         "nicht gespeichert werden."},
+         "Zeile 2: Der Text „\xFF\xFE“ ist kein gültiger UTF-8-Text und kann nicht gespeichert werden."},
         {importFehler({Kopf, "1,A," + std::string(40000, 'b') + ",1,0"}),
          "Zeile 2: Der Text „" + std::string(40, 'b') + "…“ ist zu lang für eine Tippspiel-Datei."},
         {importFehler({Kopf, "1,A,B,1,0"}, "Ekstraklasa Łódź"),
-         "Die Liga-Angabe: Der Text „Ekstraklasa Łódź“ enthält das Zeichen „Ł“ "
-         "(U+0141), das eine "
+         "Die Liga-Angabe: Der Text „Ekstraklasa Łódź“ enthält das Zeichen „Ł“ (U+0141), das eine "
          "Tippspiel-Datei nicht speichern kann. Bitte ersetzen Sie es."},
     };
     for (const auto& [ist, soll] : faelle)

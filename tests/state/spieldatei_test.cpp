@@ -54,11 +54,8 @@ TEST(Spieldatei, GoldeneDateiHinUndZurueck) {
     test::TempOrdner ordner;
     speichereSpieldatei(ordner / "spiel.tip", d);
     EXPECT_EQ(ladeSpieldatei(ordner / "spiel.tip"), d);
-    EXPECT_NE(test::fehler([&] {
-                  ladeSpieldatei(ordner / "fehlt.tip");
-              }).find("fehlt.tip“ konnte nicht geöffnet werden"),
+    EXPECT_NE(test::fehler([&] { ladeSpieldatei(ordner.pfad()); }).find("Das ist ein Ordner."),
               std::string::npos);
-    EXPECT_NE(test::fehler([&] { ladeSpieldatei(ordner.pfad()); }), "");
 }
 
 TEST(Spieldatei, JedeVerkuerzteDateiWirdAbgelehntUndDasSpielBleibt) {
@@ -106,8 +103,7 @@ TEST(Spieldatei, HoechstensSoVielWieDieGroessteSpieldateiWirdGelesen) {
     const std::string bytes = kodiereSpieldatei(groesste);
     EXPECT_EQ(lies(bytes), groesste);
     EXPECT_EQ(test::fehler([&] { lies(bytes + '\0'); }),
-              "Die Datei „test.tip“ ist beschädigt oder keine Tippspiel-Datei: "
-              "sie ist größer als jede "
+              "Die Datei „test.tip“ ist beschädigt oder keine Tippspiel-Datei: sie ist größer als jede "
               "Tippspiel-Datei (höchstens " +
                   std::to_string(bytes.size()) + " Bytes).");
 
@@ -135,22 +131,17 @@ TEST(Spieldatei, UngueltigeWerteWerdenAbgelehnt) {
         EXPECT_NE(test::fehler([&] { lies(kodiereSpieldatei(d)); }).find(grund), std::string::npos) << grund;
     }
     std::string bytes = kodiereSpieldatei(Dateiinhalt{});
-    bytes[0] = '\xFE';  // a text length of -2
-    bytes[1] = '\xFF';
+    bytes.replace(0, 2, "\xFE\xFF");  // a text length of -2
     EXPECT_THROW(lies(bytes), Dateifehler);
 
     Dateiinhalt d = test::saison(test::Saison18);
+    d.Spielername[2] = "Łukasz";  // refused before anything is written
+    EXPECT_NE(test::fehler([&] { kodiereSpieldatei(d); }).find("„Łukasz“ enthält das Zeichen „Ł“ (U+0141)"),
+              std::string::npos);
+    d.Spielername[2] = "";
     d.Paarung[34][0][0] = 77;  // beyond the 34 matchdays: never read by anything
     d.Paarung[0][9][1] = -5;   // tenth match in a nine-match league
     EXPECT_EQ(lies(kodiereSpieldatei(d)), d);
-}
-
-TEST(Spieldatei, NichtDarstellbarerTextWirdVorDemSchreibenAbgelehnt) {
-    Dateiinhalt d;
-    d.Spielername[2] = "Łukasz";
-    const std::string meldung = test::fehler([&] { kodiereSpieldatei(d); });
-    EXPECT_NE(meldung.find("„Łukasz“"), std::string::npos) << meldung;
-    EXPECT_NE(meldung.find("„Ł“ (U+0141)"), std::string::npos) << meldung;
 }
 
 }  // namespace

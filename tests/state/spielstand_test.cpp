@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "kurzesspiel.h"
+#include "scoring/auswertung.h"
 
 namespace kalimbo {
 namespace {
@@ -58,22 +59,19 @@ TEST(Spielstand, DiesTeamFindetDieMannschaftAufDemPlatz) {
 TEST(Spielstand, OeffnenUebernimmtDateiUndArbeitskopienUndVerwirftDieAuswertung) {
     Spielstand s = test::kurzesSpiel();
     s.AktSpieltag = 1;
+    werteAus(s, false);  // Carl with 9 points, Essen with 6 on position 0
     Dateiinhalt d;
     d.ErgebnisDatei[0][0] = {{2, 1}};
     d.TippDatei[8][37][9] = {{1, 0}};
-    s.Auswertung[2].GesamtPunkte = 40;
-    s.Auswertung[2].Korrekt[0][0] = 0;
-    s.Tabelle[5].Punkte = 9;
-    s.Tabelle[5].Tabellenplatz = 0;
     s.oeffne(d);
     EXPECT_EQ(static_cast<const Dateiinhalt&>(s), d);
     EXPECT_EQ(s.getErgebnis(0, 0, 0), 2);
     EXPECT_EQ(s.getTipp(8, 37, 9, 0), 1);
     EXPECT_EQ(s.AktSpieltag, 1);  // not part of the file
     EXPECT_EQ(s.getGesamtPunkte(2), 0);
-    EXPECT_EQ(s.getKorrekt(2, 0, 0), -1);
-    EXPECT_EQ(s.getTabInfo(5, 2), TabInfo{i16{0}});
-    EXPECT_EQ(s.DiesTeam(5), 5);
+    EXPECT_EQ(s.getKorrekt(2, 1, 1), -1);
+    EXPECT_EQ(s.getTabInfo(4, 2), TabInfo{i16{0}});
+    EXPECT_EQ(s.DiesTeam(4), 4);
 
     s.Tipp[0][0][0] = {{3, 3}};
     s.kopiereArbeitInDatei();
