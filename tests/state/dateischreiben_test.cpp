@@ -255,7 +255,7 @@ TEST(Speichern, AbgebrocheneSpeicherungenHinterlassenDieAlteOderDieNeueDatei) {
                                                kodiereSpieldatei(test::saison(test::Saison20))};
     schreibeDateiAtomar(ziel, fassungen[0]);
     int getoetet = 0, fertig = 0, versuch = 0;
-    auto speichere = [&](rlim_t grenze, int aufruf) {
+    auto versuche = [&](rlim_t grenze, int aufruf) {
         const std::string vorher = leseBytes(ziel);
         const std::string& neu = fassungen[++versuch % 2];
         const int status = speichereImKind(ziel, neu, grenze, aufruf);
@@ -267,12 +267,12 @@ TEST(Speichern, AbgebrocheneSpeicherungenHinterlassenDieAlteOderDieNeueDatei) {
     };
     // Killed while writing, at every 150th byte of the temporary file,
     for (rlim_t grenze = 0; grenze < fassungen[1].size(); grenze += 150)
-        speichere(grenze, 0);
+        versuche(grenze, 0);
     EXPECT_GT(dateienIn(ordner.pfad()).size(),
               100u);  // their temporary files are left behind
     // then before each call that completes a save (permissions, sync, rename, removing each leftover, syncing
     // the folder) until a save runs through,
-    for (int aufruf = 1; speichere(RLIM_INFINITY, aufruf); ++aufruf) {
+    for (int aufruf = 1; versuche(RLIM_INFINITY, aufruf); ++aufruf) {
     }
     EXPECT_GT(getoetet, 120);
     EXPECT_EQ(fertig, 1);
