@@ -8,30 +8,18 @@
 
 namespace kalimbo::test {
 
-// A short game for the report and window tests: six teams (long and short names with
-// umlauts), three matches a matchday, three matchdays of which 0 and 1 are selected. Anna (slot 0)
-// and Carl (slot 2) take part in their colours; Bernd (slot 1) and the empty slots 3-8 do not.
+// A short game for the report and window tests: six teams (long and short names with umlauts), three matches
+// a matchday, three matchdays of which 0 and 1 are selected. Anna (slot 0) and Carl (slot 2) take part in
+// their colours; Bernd (slot 1) and the empty slots 3-8 do not.
 //   results  matchday 1: A-B 2:1, C-D 0:0, E-F 10:2   matchday 2: B-A 2:1, D-C 1:1, F-E 0:3
 //   Anna     matchday 1: 2:1 1:0 3:3                   matchday 2: 2:1 2:1 0:12
 //   Bernd    matchday 1: 4:4 4:4 4:4                   matchday 2: 0:0 0:0 0:0
 //   Carl     matchday 1: 0:0 0:0 0:0                   matchday 2: 1:1 1:1 0:3
 // Matchday 3 (not selected) ended 2:1 everywhere and was tipped so by everybody.
 inline Spielstand kurzesSpiel() {
-    Spielstand s;
-    s.AnzTeams = 5;
-    s.AnzSpiele = 2;
-    s.AnzSpieltage = 2;
+    Spielstand s = liga({"Aachen", "Bochum", "Cottbus", "Dresden", "Rot & Weiß Essen|ESS", "Fürth|FÜR"}, 3,
+                        hinUndZurueck, "Anna -Bernd Carl");
     s.LigaInfo[0] = "Testliga 2024/25";
-    const char* lang[] = {"Aachen", "Bochum", "Cottbus", "Dresden", "Rot & Weiß Essen", "Fürth"};
-    const char* kurz[] = {"AAC", "BOC", "COT", "DRE", "ESS", "FÜR"};
-    for (int t = 0; t <= 5; ++t) {
-        s.Teamname[t] = lang[t];
-        s.TeamnameKurz[t] = kurz[t];
-    }
-    for (int tag = 0; tag <= 2; ++tag)
-        for (int spiel = 0; spiel <= 2; ++spiel)
-            s.Paarung[tag][spiel] = {
-                {static_cast<i16>(2 * spiel + tag % 2), static_cast<i16>(2 * spiel + 1 - tag % 2)}};
     setzeErgebnisse(s, 0, "2:1 0:0 10:2");
     setzeErgebnisse(s, 1, "2:1 1:1 0:3");
     setzeErgebnisse(s, 2, "2:1 2:1 2:1");
@@ -41,10 +29,8 @@ inline Spielstand kurzesSpiel() {
     setzeTipps(s, 2, 1, "1:1 1:1 0:3");
     for (int p = 0; p < MaxSpieler; ++p)
         setzeTipps(s, p, 2, "2:1 2:1 2:1");
-    s.Spielername = {{"Anna", "Bernd", "Carl"}};
     s.Spielerfarbe[0] = rgb(200, 0, 0);
     s.Spielerfarbe[2] = rgb(0, 0, 200);
-    s.Teilnehmer = {{1, 0, 1, 0, 0, 0, 0, 0, 0}};
     setzeAuswahl(s, "0-1");
     return s;
 }

@@ -1,6 +1,6 @@
 #include "testdaten.h"
 
-#include <array>
+#include <cctype>
 #include <fstream>
 #include <iterator>
 #include <random>
@@ -36,31 +36,84 @@ std::vector<std::vector<std::string>> leseCsv(const fs::path& pfad) {
     std::string zeile;
     std::getline(ein, zeile);  // header
     while (std::getline(ein, zeile)) {
-        std::vector<std::string> felder(1);
-        for (const char c : zeile) {
-            if (c == ',')
-                felder.emplace_back();
-            else
-                felder.back() += c;
-        }
-        zeilen.push_back(felder);
+        std::istringstream felder(zeile + ',');  // a last empty field too
+        auto& z = zeilen.emplace_back();
+        for (std::string feld; std::getline(felder, feld, ',');)
+            z.push_back(feld);
     }
     return zeilen;
 }
 
 namespace {
 
-void setzeTore(Ergebnisse& ziel, int spieltag, std::string_view text) {
-    std::istringstream ein{std::string(text)};
+void setzeTore(Ergebnisse& ziel, int spieltag, std::string_view tore) {
+    std::istringstream ein{std::string(tore)};
     int heim = 0, aus = 0;
     char doppelpunkt = 0;
     for (int spiel = 0; ein >> heim >> doppelpunkt >> aus; ++spiel) {
-        if (doppelpunkt != ':') throw std::invalid_argument("bad score in " + std::string(text));
+        if (doppelpunkt != ':') throw std::invalid_argument("bad score in " + std::string(tore));
         ziel[spieltag][spiel] = {{static_cast<i16>(heim), static_cast<i16>(aus)}};
     }
 }
 
 }  // namespace
+
+std::array<int, 2> hinUndZurueck(int spieltag, int spiel) {
+    return {2 * spiel + spieltag % 2, 2 * spiel + 1 - spieltag % 2};
+}
+
+Spielstand liga(const std::vector<std::string>& teams, int spieltage, const Paarung& paarung,
+                std::string_view spieler) {
+    Spielstand s;
+    const int anzahl = static_cast<int>(teams.size());
+    s.AnzTeams = static_cast<i16>(anzahl - 1);
+    s.AnzSpiele = static_cast<i16>(anzahl / 2 - 1);
+    s.AnzSpieltage = static_cast<i16>(spieltage - 1);
+    s.AnzTippfelder = static_cast<i16>(MaxSpieler * (anzahl / 2) - 1);
+    for (int t = 0; t < anzahl; ++t) {
+        const std::string& team = teams[static_cast<std::size_t>(t)];
+        const auto strich = team.find('|');
+        s.Teamname[t] = team.substr(0, strich);
+        s.TeamnameKurz[t] = strich == std::string::npos ? team.substr(0, 3) : team.substr(strich + 1);
+        if (strich == std::string::npos)
+            for (char& c : s.TeamnameKurz[t])
+                c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+    }
+    for (int tag = 0; tag < spieltage; ++tag)
+        for (int spiel = 0; spiel < anzahl / 2; ++spiel) {
+            const auto [heim, gast] = paarung(tag, spiel);
+            s.Paarung[tag][spiel] = {{static_cast<i16>(heim), static_cast<i16>(gast)}};
+        }
+    std::istringstream namen{std::string(spieler)};
+    for (int p = 0; p < MaxSpieler; ++p) {
+        std::string name;
+        namen >> name;
+        s.Teilnehmer[p] = !name.empty() && name[0] != '-';
+        s.Spielername[p] = name.empty() || s.Teilnehmer[p] ? name : name.substr(1);
+    }
+    return s;
+}
+
+Spielstand kleinesSpiel(int teams) {
+    static const std::vector<std::string> Namen{
+        "FC Ahrensfelde|AHR", "Borussia Bärstadt|BÄR", "SV Calmbach|CAL",
+        "TuS Dörpen|DÖR",     "Eintracht Elsdorf|ELS", "VfB Fürth-Süd|FÜR",
+        "SC Gmünd|GMÜ",       "Hansa Heide|HEI",       "Union Ilmenau|ILM",
+        "Jahn Jübek|JÜB",     "Kickers Kölln|KÖL",     "Lok Lübars|LÜB",
+        "MSV Möhnesee|MÖH",   "Concordia Nörten|NÖR",  "Olympia Oese|OES",
+        "Preußen Plön|PLÖ",   "Rot-Weiß Rüthen|RÜT",   "Sportfreunde Süchteln|SÜC",
+        "TSV Tönning|TÖN",    "Viktoria Vöhl|VÖH"};
+    // Circle method: team teams-1 stays, the others turn one place per round.
+    const int kreis = teams - 1;
+    const Paarung runden = [kreis](int tag, int spiel) {
+        const int runde = tag % kreis;
+        std::array<int, 2> p{spiel == 0 ? kreis : (runde + spiel) % kreis,
+                             spiel == 0 ? runde : (runde - spiel + kreis) % kreis};
+        if (tag >= kreis) std::swap(p[0], p[1]);
+        return p;
+    };
+    return liga({Namen.begin(), Namen.begin() + teams}, 2 * kreis, runden, "Anna Bernd Carl Dora");
+}
 
 void setzeErgebnisse(Spielstand& s, int spieltag, std::string_view ergebnisse) {
     setzeTore(s.Ergebnis, spieltag, ergebnisse);
@@ -96,60 +149,6 @@ void setzeAuswahl(Spielstand& s, std::string_view auswahl) {
             s.SptgAuswerten[tag] = 1;
         if (ein.peek() == ',') ein.ignore();
     }
-}
-
-Spielstand kleinesSpiel(int teams) {
-    static const std::array<std::pair<const char*, const char*>, MaxTeams> Namen{{
-        {"FC Ahrensfelde", "AHR"}, {"Borussia Bärstadt", "BÄR"}, {"SV Calmbach", "CAL"},
-        {"TuS Dörpen", "DÖR"},     {"Eintracht Elsdorf", "ELS"}, {"VfB Fürth-Süd", "FÜR"},
-        {"SC Gmünd", "GMÜ"},       {"Hansa Heide", "HEI"},       {"Union Ilmenau", "ILM"},
-        {"Jahn Jübek", "JÜB"},     {"Kickers Kölln", "KÖL"},     {"Lok Lübars", "LÜB"},
-        {"MSV Möhnesee", "MÖH"},   {"Concordia Nörten", "NÖR"},  {"Olympia Oese", "OES"},
-        {"Preußen Plön", "PLÖ"},   {"Rot-Weiß Rüthen", "RÜT"},   {"Sportfreunde Süchteln", "SÜC"},
-        {"TSV Tönning", "TÖN"},    {"Viktoria Vöhl", "VÖH"},
-    }};
-    Spielstand s;
-    s.AnzTeams = static_cast<i16>(teams - 1);
-    s.AnzSpiele = static_cast<i16>(teams / 2 - 1);
-    s.AnzSpieltage = static_cast<i16>(2 * (teams - 1) - 1);
-    s.AnzTippfelder = static_cast<i16>(MaxSpieler * (s.AnzSpiele + 1) - 1);
-    for (int t = 0; t < teams; ++t) {
-        s.Teamname[t] = Namen[static_cast<std::size_t>(t)].first;
-        s.TeamnameKurz[t] = Namen[static_cast<std::size_t>(t)].second;
-    }
-    // Circle method: team teams-1 stays, the others turn one place per round.
-    const int kreis = teams - 1;
-    for (int tag = 0; tag <= s.AnzSpieltage; ++tag) {
-        const int runde = tag % kreis;
-        for (int spiel = 0; spiel <= s.AnzSpiele; ++spiel) {
-            int heim = spiel == 0 ? kreis : (runde + spiel) % kreis;
-            int gast = spiel == 0 ? runde : (runde - spiel + kreis) % kreis;
-            if (tag >= kreis) std::swap(heim, gast);
-            s.Paarung[tag][spiel] = {{static_cast<i16>(heim), static_cast<i16>(gast)}};
-        }
-    }
-    const std::array<const char*, 4> spieler{"Anna", "Bernd", "Carl", "Dora"};
-    for (int p = 0; p < MaxSpieler; ++p) {
-        s.Spielername[p] = p < 4 ? spieler[static_cast<std::size_t>(p)] : "";
-        s.Teilnehmer[p] = p < 4 ? 1 : 0;
-    }
-    return s;
-}
-
-std::string crlf(std::string_view text) {
-    if (!text.empty() && text.front() == '\n') text.remove_prefix(1);
-    std::string ergebnis;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text.substr(i, 3) == "→") {
-            ergebnis += '\t';
-            i += 2;
-        } else if (text[i] == '\n') {
-            ergebnis += "\r\n";
-        } else {
-            ergebnis += text[i];
-        }
-    }
-    return ergebnis;
 }
 
 std::string leseBytes(const fs::path& pfad) {

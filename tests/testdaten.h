@@ -1,6 +1,8 @@
 #pragma once
 
+#include <array>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,25 +23,46 @@ Dateiinhalt saison(const std::string& name);
 // The rows of a CSV file below its header line, split at the commas (the shared data quotes nothing).
 std::vector<std::vector<std::string>> leseCsv(const std::filesystem::path& pfad);
 
-// Scores in short notation, match 0 first: "2:1 0:0 1:3". Writes the real results of a matchday,
-// or one player's tips of a matchday; matches not named keep their values.
+// The teams of match `spiel` on matchday `spieltag`, home first.
+using Paarung = std::function<std::array<int, 2>(int spieltag, int spiel)>;
+// Match k between teams 2k and 2k+1, the home side changing from one matchday to the next.
+std::array<int, 2> hinUndZurueck(int spieltag, int spiel);
+
+// The one way the tests build a game: the teams `teams` ("Long name" or "Long name|KURZ"; without a bar the
+// short name is the first three letters in capitals), `spieltage` matchdays of teams/2 matches paired by
+// `paarung`, and the players named in `spieler` in slots 0.. ("Anna -Bernd": a leading "-" for one who does
+// not take part); the other slots are empty and do not take part. No results, no tips, nothing selected.
+Spielstand liga(const std::vector<std::string>& teams, int spieltage, const Paarung& paarung,
+                std::string_view spieler);
+
+// A game of `teams` (18 or 20) teams with umlauts in their names ("Borussia Bärstadt", "BÄR"), a double round
+// robin (team teams-1 at home in match 0 of every matchday of the first half) and the players "Anna",
+// "Bernd", "Carl", "Dora" taking part.
+Spielstand kleinesSpiel(int teams);
+
+// The real results of a matchday, or one player's tips of a matchday, in short notation, match 0 first: "2:1
+// 0:0 1:3"; matches not named keep their values.
 void setzeErgebnisse(Spielstand& s, int spieltag, std::string_view ergebnisse);
 void setzeTipps(Spielstand& s, int spieler, int spieltag, std::string_view tipps);
 
-// The matchdays selected by SptgAuswerten in the notation "0-2, 5" (0-based, "" for none), and
-// the flags set to exactly such a list.
+// The matchdays selected by SptgAuswerten in the notation "0-2, 5" (0-based, "" for none), and the flags set
+// to exactly such a list.
 std::string auswahl(const Spielstand& s);
 void setzeAuswahl(Spielstand& s, std::string_view auswahl);
 
-// A hand-made game of `teams` (18 or 20) teams with umlauts in their names ("Borussia Bärstadt",
-// "BÄR"), a double round robin (team teams-1 at home in match 0 of every matchday of the first
-// half), players "Anna", "Bernd", "Carl", "Dora" taking part and slots 4..8 unnamed and not taking
-// part. No results, no tips, no matchday selected, no current matchday; not evaluated.
-Spielstand kleinesSpiel(int teams);
-
-// Text in test notation: "→" stands for a TAB and every line break for CR LF; a line break right
-// at the start is dropped, so a raw string literal can begin on its own line.
-std::string crlf(std::string_view text);
+// What `f` throws as text: the message of a Laufzeitfehler ("Überlauf", "Index außerhalb des gültigen
+// Bereichs", "Division durch Null", each perhaps with where) or of a Dateifehler; "" when it throws nothing.
+template <class F>
+std::string fehler(F f) {
+    try {
+        f();
+    } catch (const Laufzeitfehler& e) {
+        return e.what();
+    } catch (const Dateifehler& e) {
+        return e.what();
+    }
+    return "";
+}
 
 std::string leseBytes(const std::filesystem::path& pfad);
 void schreibeBytes(const std::filesystem::path& pfad, const std::string& bytes);

@@ -3,6 +3,7 @@
 // "! ..." lines (only the first for wrong usage) and its exit code, and must leave every file as
 // it was. DATEN, GEMEINSAM and TMP stand for tests/data/quellen, ../shared/data/quellen and a
 // fresh folder. KALIMBO_PROTOKOLL_SCHREIBEN=1 writes the output of a run to the file instead.
+#include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include <cstdlib>

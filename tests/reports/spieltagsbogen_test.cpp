@@ -1,123 +1,95 @@
+// The printed matchday sheet: its content as a page of HTML, its drawing as SVG, both golden.
 #include "reports/spieltagsbogen.h"
 
 #include <gtest/gtest.h>
 
-#include <map>
-
+#include "graph/svg.h"
+#include "graph/textbreite.h"
 #include "kurzesspiel.h"
+#include "reports/bogenhtml.h"
+#include "reports/bogenzeichnung.h"
 #include "scoring/auswertung.h"
-#include "scoring/regeln.h"
 
 namespace kalimbo {
 namespace {
 
-// The colours of the evaluation by name; white is left out.
-std::string farbname(Farbe f) {
-    const std::map<Farbe, std::string> namen{
-        {Rot, "/rot"}, {Hellgelb, "/gelb"}, {Gruen, "/grün"}, {Weiss, ""}, {rgb(240, 240, 240), "/grau"}};
-    const auto n = namen.find(f);
-    return n == namen.end() ? "/?" : n->second;
-}
-
-std::string zelle(const Bogenzelle& z) {
-    return "[" + z.text + farbname(z.hintergrund) + "]";
-}
-
-// The whole content in lines: head, players, one line per match, the sums, the footer.
-std::string alsText(const Spieltagsbogen& b) {
-    std::string t = b.liga + " | " + b.titel + " | " + b.art + "\n";
-    for (const auto& sp : b.spieler)
-        t += sp.name + '#' + std::to_string(sp.farbe) + ' ';
-    t += '\n';
-    for (const auto& spiel : b.spiele) {
-        t += spiel.heim + " - " + spiel.gast + ' ' + zelle(spiel.ergebnis);
-        for (const auto& tipp : spiel.tipps)
-            t += ' ' + zelle(tipp);
-        t += '\n';
-    }
-    for (const auto& summe : b.summen) {
-        t += summe.titel + ':';
-        for (const auto& w : summe.werte)
-            t += ' ' + w;
-        t += '\n';
-    }
-    return t + b.fussnote + " | " + b.datum + '\n';
-}
-
-// The small game evaluated under the 3-2-1 rule, with Carl's first tip of matchday 2 changed to
-// 3:2, a margin hit on the 2:1.
-class Bogen : public testing::Test {
-  protected:
-    void SetUp() override {
-        s.Tipp[2][1][0] = {{3, 2}};
-        werteAus(s, false);
-    }
+// The small game evaluated under the 3-2-1 rule, Carl renamed to show the escaping and his first tip of
+// matchday 2 changed to 3:2, a margin hit on the 2:1. On matchday 3 Bernd plays along but was not evaluated:
+// his tips stand grey.
+Spieltagsbogen bogen(int spieltag, Bogenart art) {
     Spielstand s = test::kurzesSpiel();
-};
-
-const std::string Kopf = "Testliga 2024/25 | Spieltag 2 | ";
-const std::string Spieler = "Anna#200 Carl#13107200 \n";
-const std::string Fuss = "automatisch erstellt mit 'Kalimbo' - Version 5.0.1 | 24.12.2024\n";
-
-TEST_F(Bogen, JedeArtFuelltIhreZellen) {
-    const std::vector<std::pair<Bogenart, std::string>> faelle{
-        {Bogenart::Auswertung, Kopf + "Auswertung\n" + Spieler +
-                                   "Bochum - Aachen [2:1] [2:1/rot] [3:2/gelb]\n"
-                                   "Dresden - Cottbus [1:1] [2:1] [1:1/rot]\n"
-                                   "Fürth - Rot & Weiß Essen [0:3] [0:12/grün] [0:3/rot]\n"
-                                   "Punkte Spieltag: 4 8\n"
-                                   "Platz Spieltag: 2 1\n"
-                                   "Punkte gesamt: 7 11\n"
-                                   "Platz gesamt: 2 1\n" +
-                                   Fuss},
-        {Bogenart::Live, Kopf + "Live-Spiel\n" + Spieler +
-                             "Bochum - Aachen [] [2:1] [3:2]\n"
-                             "Dresden - Cottbus [] [2:1] [1:1]\n"
-                             "Fürth - Rot & Weiß Essen [] [0:12] [0:3]\n" +
-                             Fuss},
-        {Bogenart::Tippabgabe, Kopf + "Tippabgabe\n" + Spieler +
-                                   "Bochum - Aachen [] [] []\n"
-                                   "Dresden - Cottbus [] [] []\n"
-                                   "Fürth - Rot & Weiß Essen [] [] []\n" +
-                                   Fuss},
-    };
-    for (const auto& [art, erwartet] : faelle)
-        EXPECT_EQ(alsText(erstelleBogen(s, 1, art, "24.12.2024")), erwartet) << bogenartName(art);
+    s.Tipp[2][1][0] = {{3, 2}};
+    s.Spielername[2] = "<Carl>";
+    werteAus(s, false);
+    s.Teilnehmer[1] = spieltag == 2 ? 1 : 0;
+    return erstelleBogen(s, spieltag, art, "24.12.2024");
 }
 
-TEST_F(Bogen, UngewerteteTippsGrauPlaetzeUndPunkteWieAufDemSchirm) {
-    s.Teilnehmer[1] = 1;  // Bernd plays along but was not evaluated: his tips were not scored
-    EXPECT_EQ(alsText(erstelleBogen(s, 2, Bogenart::Auswertung, "")),
-              "Testliga 2024/25 | Spieltag 3 | Auswertung\n"
-              "Anna#200 Bernd#15073533 Carl#13107200 \n"
-              "Aachen - Bochum [2:1] [2:1/grau] [2:1/grau] [2:1/grau]\n"
-              "Cottbus - Dresden [2:1] [2:1/grau] [2:1/grau] [2:1/grau]\n"
-              "Rot & Weiß Essen - Fürth [2:1] [2:1/grau] [2:1/grau] [2:1/grau]\n"
-              "Punkte Spieltag: 0 0 0\n"
-              "Platz Spieltag: 1 2 3\n"
-              "Punkte gesamt: 7 0 11\n"
-              "Platz gesamt: 2 3 1\n"
-              "automatisch erstellt mit 'Kalimbo' - Version 5.0.1 | \n");
-}
-
-TEST_F(Bogen, SpieltagAusserhalbDerSaison) {
+TEST(Spieltagsbogen, JedeArtAlsHtmlUndZeichnung) {
+    for (const Bogenart art : {Bogenart::Auswertung, Bogenart::Live, Bogenart::Tippabgabe}) {
+        const std::string name = "boegen/spieltag-2-" + std::string(bogenartName(art));
+        EXPECT_EQ(bogenAlsHtml(bogen(1, art)), test::testdatei(name + ".html"));
+        EXPECT_EQ(grafik::alsSvg(zeichneBogen(bogen(1, art))), test::testdatei(name + ".svg"));
+    }
+    EXPECT_EQ(bogenAlsHtml(bogen(2, Bogenart::Auswertung)),
+              test::testdatei("boegen/spieltag-3-auswertung.html"));
     for (const int tag : {-1, 3, 38})
-        EXPECT_THROW(erstelleBogen(s, tag, Bogenart::Tippabgabe, ""), Laufzeitfehler) << tag;
+        EXPECT_THROW(bogen(tag, Bogenart::Tippabgabe), Laufzeitfehler) << tag;
 }
 
-TEST(Bogenart, NamenDerKommandozeile) {
-    for (const Bogenart art : {Bogenart::Auswertung, Bogenart::Live, Bogenart::Tippabgabe})
-        EXPECT_EQ(bogenartAusName(bogenartName(art)), art);
-    EXPECT_EQ(bogenartName(Bogenart::Live), "live");
-    EXPECT_EQ(bogenartAusName("Auswertung"), std::nullopt);
-    EXPECT_EQ(bogenartAusName(""), std::nullopt);
+// A season of `name` with `spieler` players taking part under names of `namenslaenge` letters.
+Spielstand saisonspiel(const char* name, int spieler, int namenslaenge) {
+    Spielstand s;
+    s.oeffne(test::saison(name));
+    for (int p = 0; p < MaxSpieler; ++p) {
+        s.Teilnehmer[p] = p < spieler ? 1 : 0;
+        s.Spielername[p] =
+            static_cast<char>('A' + p) +
+            std::string(static_cast<std::size_t>(namenslaenge - 1), static_cast<char>('a' + p));
+    }
+    test::setzeAuswahl(s, "0-33");
+    werteAus(s, false);
+    return s;
 }
 
-TEST(Druckfarbe, SystemfarbenWerdenFest) {
-    EXPECT_EQ(druckfarbe(Schaltflaechenfarbe), rgb(240, 240, 240));
-    EXPECT_EQ(druckfarbe(static_cast<Farbe>(0x80000005u)), Weiss);
-    EXPECT_EQ(druckfarbe(static_cast<Farbe>(0x80000008u)), rgb(0, 0, 0));
-    EXPECT_EQ(druckfarbe(rgb(1, 2, 3)), rgb(1, 2, 3));
+// Every match on a line, everything within the margins, every text within its box: a narrow game on a
+// portrait page, more players in landscape, long names in a smaller font.
+TEST(Spieltagsbogen, JedesSpielEineZeileAllesInnerhalbDerRaender) {
+    struct Fall {
+        const char* saison;
+        int spieler, namenslaenge, spiele;
+        bool quer;
+        int schrift;  // points of the grid
+    };
+    for (const Fall& f : {Fall{test::Saison18, 2, 5, 9, false, 10}, Fall{test::Saison20, 6, 5, 10, true, 10},
+                          Fall{test::Saison18, 9, 8, 9, true, 7}})
+        for (const Bogenart art : {Bogenart::Auswertung, Bogenart::Live, Bogenart::Tippabgabe}) {
+            SCOPED_TRACE(std::to_string(f.spieler) + " Spieler, " + std::string(bogenartName(art)));
+            const grafik::Zeichnung z = zeichneBogen(
+                erstelleBogen(saisonspiel(f.saison, f.spieler, f.namenslaenge), 4, art, "1.1.2025"));
+            EXPECT_EQ(z.breite, f.quer ? A4Lang : A4Schmal);
+            EXPECT_EQ(z.hoehe, f.quer ? A4Schmal : A4Lang);
+            auto innen = [&](int x, int y) {
+                return x >= Seitenrand && x <= z.breite - Seitenrand && y >= Seitenrand &&
+                       y <= z.hoehe - Seitenrand;
+            };
+            int striche = 0;
+            for (const grafik::Primitiv& teil : z.teile) {
+                const auto* l = std::get_if<grafik::Linie>(&teil);
+                EXPECT_TRUE(!l || (innen(l->x1, l->y1) && innen(l->x2, l->y2)));
+                const auto* r = std::get_if<grafik::Rechteck>(&teil);
+                EXPECT_TRUE(!r || (innen(r->x1, r->y1) && innen(r->x2, r->y2)));
+                if (const auto* t = std::get_if<grafik::Text>(&teil)) {
+                    EXPECT_TRUE(innen(t->x, t->y) && innen(t->x + t->breite, t->y + t->groesse * 20))
+                        << t->text;
+                    EXPECT_LE(grafik::geschaetzteTextbreite(t->text, t->groesse, t->fett), t->breite)
+                        << t->text;
+                    EXPECT_TRUE(t->text != "Heim" || t->groesse == f.schrift) << t->groesse;
+                    striche += t->text == "–";
+                }
+            }
+            EXPECT_EQ(striche, f.spiele);
+        }
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 #include "schlichte_auswertung.h"
 
+#include <array>
 #include <string>
+#include <tuple>
 
 #include "scoring/fehlerort.h"
 
@@ -10,9 +12,7 @@ namespace {
 
 using Zahl = long long;
 
-constexpr int KeinTreffer = -1;
-
-// Throws the overflow error `wobei()` names unless `wert` fits in 16 bits.
+// `wert` if it fits in 16 bits, else the overflow error that `wobei()` names.
 template <class Wobei>
 i16 in16(Zahl wert, Wobei wobei) {
     if (wert < -32768 || wert > 32767) throw Laufzeitfehler(Laufzeitfehler::Ueberlauf, wobei());
@@ -27,102 +27,50 @@ void pruefeBereich(Zahl wert, Zahl grenze) {
 int trefferArt(Zahl tippHeim, Zahl tippAus, Zahl heim, Zahl aus) {
     if (tippHeim == heim && tippAus == aus) return 0;
     if (tippHeim - tippAus == heim - aus && heim != aus) return 1;
-    const bool beideUnentschieden = tippHeim == tippAus && heim == aus;
-    const bool beideHeimsiege = tippHeim > tippAus && heim > aus;
-    const bool beideAuswaertssiege = tippHeim < tippAus && heim < aus;
-    if (beideUnentschieden || beideHeimsiege || beideAuswaertssiege) return 2;
-    return KeinTreffer;
+    const auto tendenz = [](Zahl a, Zahl b) { return (a > b) - (a < b); };
+    return tendenz(tippHeim, tippAus) == tendenz(heim, aus) ? 2 : -1;
 }
 
-struct Regeln {
-    const Spielstand& s;
-    bool sonntagsspieleAuslassen;
-
-    bool gewertet(int tag, int spiel) const {
-        const bool sonntag = sonntagsspieleAuslassen && tag == s.AktSpieltagGlobal &&
-                             (spiel == s.SonntagSpiele[0] || spiel == s.SonntagSpiele[1]);
-        return s.SptgAuswerten[tag] == 1 && !sonntag;
-    }
-};
-
-void setzeZurueck(Spielstand& s) {
-    for (int p = 0; p < MaxSpieler; ++p) {
-        SpielerAuswertung a;
-        a.Sortierplatz = a.Platz = static_cast<i16>(p);
-        for (int tag = 0; tag < MaxSpieltage; ++tag) {
-            a.SptgSortierplatz[tag] = a.SptgPlatz[tag] = static_cast<i16>(p);
-            for (int spiel = 0; spiel < MaxSpiele; ++spiel) {
-                a.SpielFarbe[tag][spiel] = Weiss;
-                a.Korrekt[tag][spiel] = KeinTreffer;
-            }
-        }
-        for (int t = 0; t < MaxTeams; ++t)
-            a.TeamSortierung[t] = static_cast<i16>(t);
-        s.Auswertung[p] = a;
-    }
-    for (int t = 0; t <= MaxTeams; ++t) {
-        s.Tabelle[t] = Tabellenzeile{};
-        s.Tabelle[t].Name = t < MaxTeams ? s.Teamname[t] : "";
-        s.Tabelle[t].Tabellenplatz = static_cast<i16>(t);
-    }
+bool gewertet(const Spielstand& s, bool sonntagsspieleAuslassen, int tag, int spiel) {
+    const bool sonntag = sonntagsspieleAuslassen && tag == s.AktSpieltagGlobal &&
+                         (spiel == s.SonntagSpiele[0] || spiel == s.SonntagSpiele[1]);
+    return s.SptgAuswerten[tag] == 1 && !sonntag;
 }
 
-void pruefeSpiele(const Spielstand& s, const Regeln& r) {
-    for (int tag = 0; tag <= s.AnzSpieltage; ++tag)
-        for (int spiel = 0; spiel <= s.AnzSpiele; ++spiel) {
-            if (!r.gewertet(tag, spiel)) continue;
-            in16(Zahl{s.Ergebnis[tag][spiel][0]} - s.Ergebnis[tag][spiel][1], [&] {
-                return "beim Ergebnis des " + std::to_string(spiel + 1) + ". Spiels " + amSpieltag(tag);
-            });
-            pruefeBereich(s.Paarung[tag][spiel][0], MaxTeams);
-            pruefeBereich(s.Paarung[tag][spiel][1], MaxTeams);
-        }
-}
-
-void werteSpielerAus(Spielstand& s, const Regeln& r, int p) {
+void werteSpielerAus(Spielstand& s, bool sonntag, int p) {
     SpielerAuswertung& a = s.Auswertung[p];
-    if (s.Teilnehmer[p] != 1) {
-        for (int tag = 0; tag <= s.AnzSpieltage; ++tag)
-            for (int spiel = 0; spiel <= s.AnzSpiele; ++spiel)
-                a.SpielFarbe[tag][spiel] = Schaltflaechenfarbe;
-        return;
-    }
     const std::string spieler = spielerImText(s, p);
-    Zahl tagPunkte[MaxSpieltage][3] = {};
-    Zahl teamPunkte[MaxTeams][3] = {};
+    Zahl tagPunkte[MaxSpieltage][3] = {}, teamPunkte[MaxTeams][3] = {};
     for (int tag = 0; tag <= s.AnzSpieltage; ++tag)
         for (int spiel = 0; spiel <= s.AnzSpiele; ++spiel) {
-            if (!r.gewertet(tag, spiel)) {
+            if (s.Teilnehmer[p] != 1 || !gewertet(s, sonntag, tag, spiel)) {
                 a.SpielFarbe[tag][spiel] = Schaltflaechenfarbe;
                 continue;
             }
-            const auto& tipp = s.Tipp[p][tag][spiel];
-            const auto& ergebnis = s.Ergebnis[tag][spiel];
+            const auto &tipp = s.Tipp[p][tag][spiel], &ergebnis = s.Ergebnis[tag][spiel];
             in16(Zahl{tipp[0]} - tipp[1], [&] {
                 return "beim Tipp von " + spieler + " für das " + std::to_string(spiel + 1) + ". Spiel " +
                        amSpieltag(tag);
             });
             const int art = trefferArt(tipp[0], tipp[1], ergebnis[0], ergebnis[1]);
-            if (art == KeinTreffer) continue;
+            if (art < 0) continue;
             a.Korrekt[tag][spiel] = static_cast<i16>(art);
             a.SpielFarbe[tag][spiel] = s.ModusFarbe[art];
-            const Zahl punkte = s.ModusPunkte[art];
-            tagPunkte[tag][art] += punkte;
-            teamPunkte[s.Paarung[tag][spiel][0]][art] += punkte;
-            teamPunkte[s.Paarung[tag][spiel][1]][art] += punkte;
+            tagPunkte[tag][art] += s.ModusPunkte[art];
+            for (const i16 team : s.Paarung[tag][spiel])
+                teamPunkte[team][art] += s.ModusPunkte[art];
         }
+    if (s.Teilnehmer[p] != 1) return;
 
     Zahl gesamt = 0, nachArt[3] = {};
     for (int tag = 0; tag < MaxSpieltage; ++tag) {
         const auto wobei = [&] { return "bei den Punkten von " + spieler + " " + amSpieltag(tag); };
-        Zahl summe = 0;
         for (int art = 0; art < 3; ++art) {
             in16(tagPunkte[tag][art], wobei);
-            summe += tagPunkte[tag][art];
             nachArt[art] += tagPunkte[tag][art];
         }
-        a.SpieltagPunkte[tag] = in16(summe, wobei);
-        gesamt += summe;
+        a.SpieltagPunkte[tag] = in16(tagPunkte[tag][0] + tagPunkte[tag][1] + tagPunkte[tag][2], wobei);
+        gesamt += a.SpieltagPunkte[tag];
     }
     a.GesamtPunkte = in16(gesamt, [&] { return "bei den Gesamtpunkten von " + spieler; });
     const char* const artText[3] = {"für ganz richtige Tipps", "für richtige Tordifferenzen",
@@ -131,68 +79,56 @@ void werteSpielerAus(Spielstand& s, const Regeln& r, int p) {
         a.PunkteNachArt[art] =
             in16(nachArt[art], [&] { return "bei den Punkten von " + spieler + " " + artText[art]; });
     for (int t = 0; t < MaxTeams; ++t) {
+        const Zahl* punkte = teamPunkte[t];
         const auto wobei = [&] {
             return "bei den Punkten von " + spieler + " aus Spielen von " + teamImText(s.Teamname[t], t);
         };
-        a.TeamPunkteKorrekt[t] = in16(teamPunkte[t][0], wobei);
-        a.TeamPunkteDiff[t] = in16(teamPunkte[t][1], wobei);
-        a.TeamPunkteTendenz[t] = in16(teamPunkte[t][2], wobei);
-        a.TeamPunkte[t] = in16(teamPunkte[t][0] + teamPunkte[t][1] + teamPunkte[t][2], wobei);
+        a.TeamPunkteKorrekt[t] = in16(punkte[0], wobei);
+        a.TeamPunkteDiff[t] = in16(punkte[1], wobei);
+        a.TeamPunkteTendenz[t] = in16(punkte[2], wobei);
+        a.TeamPunkte[t] = in16(punkte[0] + punkte[1] + punkte[2], wobei);
     }
 }
 
-// Wins, draws, losses, goals and goals against of one team on one side, and its points.
-struct Bilanz {
-    Zahl siege = 0, unentschieden = 0, niederlagen = 0, tore = 0, gegentore = 0;
-    Zahl punkte() const { return 3 * siege + unentschieden; }
-};
+// Wins, draws, losses, goals and goals against of one team on one side.
+using Bilanz = std::array<Zahl, 5>;
 
-void schreibe(const Bilanz& b, i16& punkte, i16& siege, i16& unentschieden, i16& niederlagen, i16& tore,
-              i16& gegentore, const std::string& team) {
-    const auto wobei = [&] { return "in der Tabellenzeile von " + team; };
-    punkte = in16(b.punkte(), wobei);
-    siege = in16(b.siege, wobei);
-    unentschieden = in16(b.unentschieden, wobei);
-    niederlagen = in16(b.niederlagen, wobei);
-    tore = in16(b.tore, wobei);
-    gegentore = in16(b.gegentore, wobei);
+void zaehle(Bilanz& b, Zahl eigene, Zahl andere) {
+    b = {b[0] + (eigene > andere), b[1] + (eigene == andere), b[2] + (eigene < andere), b[3] + eigene,
+         b[4] + andere};
 }
 
-void zaehleTabelle(Spielstand& s, const Regeln& r) {
-    Bilanz heim[MaxTeams + 1], auswaerts[MaxTeams + 1];
+// Points (3 for a win, 1 for a draw) and the five counts into the six figures of one side.
+void schreibe(const Bilanz& b, std::array<i16*, 6> ziel, const std::string& team) {
+    const Zahl werte[6] = {3 * b[0] + b[1], b[0], b[1], b[2], b[3], b[4]};
+    for (int i = 0; i < 6; ++i)
+        *ziel[static_cast<std::size_t>(i)] =
+            in16(werte[i], [&] { return "in der Tabellenzeile von " + team; });
+}
+
+void zaehleTabelle(Spielstand& s, bool sonntag) {
+    Bilanz heim[MaxTeams] = {}, auswaerts[MaxTeams] = {};
     for (int tag = 0; tag <= s.AnzSpieltage; ++tag)
         for (int spiel = 0; spiel <= s.AnzSpiele; ++spiel) {
-            if (!r.gewertet(tag, spiel)) continue;
+            if (!gewertet(s, sonntag, tag, spiel)) continue;
             const Zahl h = s.Ergebnis[tag][spiel][0], g = s.Ergebnis[tag][spiel][1];
-            Bilanz& H = heim[s.Paarung[tag][spiel][0]];
-            Bilanz& A = auswaerts[s.Paarung[tag][spiel][1]];
-            if (h > g) {
-                H.siege += 1;
-                A.niederlagen += 1;
-            } else if (h == g) {
-                H.unentschieden += 1;
-                A.unentschieden += 1;
-            } else {
-                A.siege += 1;
-                H.niederlagen += 1;
-            }
-            H.tore += h;
-            H.gegentore += g;
-            A.tore += g;
-            A.gegentore += h;
+            zaehle(heim[s.Paarung[tag][spiel][0]], h, g);
+            zaehle(auswaerts[s.Paarung[tag][spiel][1]], g, h);
         }
-    for (int t = 0; t <= MaxTeams; ++t) {
+    for (int t = 0; t < MaxTeams; ++t) {
         Tabellenzeile& z = s.Tabelle[t];
         const std::string team = teamImText(z.Name, t);
-        const Bilanz& h = heim[t];
-        const Bilanz& a = auswaerts[t];
-        const Bilanz summe{h.siege + a.siege, h.unentschieden + a.unentschieden,
-                           h.niederlagen + a.niederlagen, h.tore + a.tore, h.gegentore + a.gegentore};
-        schreibe(h, z.HeimPunkte, z.HeimSiege, z.HeimUnentschieden, z.HeimNiederlagen, z.HeimTore,
-                 z.HeimGegentore, team);
-        schreibe(a, z.AuswPunkte, z.AuswSiege, z.AuswUnentschieden, z.AuswNiederlagen, z.AuswTore,
-                 z.AuswGegentore, team);
-        schreibe(summe, z.Punkte, z.Siege, z.Unentschieden, z.Niederlagen, z.Tore, z.Gegentore, team);
+        const Bilanz &h = heim[t], &a = auswaerts[t];
+        schreibe(h,
+                 {&z.HeimPunkte, &z.HeimSiege, &z.HeimUnentschieden, &z.HeimNiederlagen, &z.HeimTore,
+                  &z.HeimGegentore},
+                 team);
+        schreibe(a,
+                 {&z.AuswPunkte, &z.AuswSiege, &z.AuswUnentschieden, &z.AuswNiederlagen, &z.AuswTore,
+                  &z.AuswGegentore},
+                 team);
+        schreibe({h[0] + a[0], h[1] + a[1], h[2] + a[2], h[3] + a[3], h[4] + a[4]},
+                 {&z.Punkte, &z.Siege, &z.Unentschieden, &z.Niederlagen, &z.Tore, &z.Gegentore}, team);
     }
 }
 
@@ -203,6 +139,7 @@ int teamAuf(const Spielstand& s, int platz) {
     return team;
 }
 
+// By points, goal difference and goals, as the literal bubble sort over the positions.
 void sortiereTabelle(Spielstand& s) {
     pruefeBereich(s.AnzTeams, MaxTeams + 1);
     Zahl differenz[MaxTeams + 1] = {};
@@ -212,17 +149,14 @@ void sortiereTabelle(Spielstand& s) {
     for (int durchgang = 0; durchgang < s.AnzTeams; ++durchgang)
         for (int n = 0; n < s.AnzTeams; ++n) {
             const int ta = teamAuf(s, n), tb = teamAuf(s, n + 1);
-            Tabellenzeile& a = s.Tabelle[ta];
-            Tabellenzeile& b = s.Tabelle[tb];
-            const bool schlechter =
-                a.Punkte < b.Punkte || (a.Punkte == b.Punkte && differenz[ta] < differenz[tb]) ||
-                (a.Punkte == b.Punkte && differenz[ta] == differenz[tb] && a.Tore < b.Tore);
-            if (schlechter) std::swap(a.Tabellenplatz, b.Tabellenplatz);
+            Tabellenzeile &a = s.Tabelle[ta], &b = s.Tabelle[tb];
+            if (std::tuple(a.Punkte, differenz[ta], a.Tore) < std::tuple(b.Punkte, differenz[tb], b.Tore))
+                std::swap(a.Tabellenplatz, b.Tabellenplatz);
         }
 }
 
-// Sorts the nine slots by `punkte` into `sortierplatz` (8 passes, swaps on strictly fewer points)
-// and gives each the first position holding its points as `platz`.
+// Sorts the nine slots by `punkte` into `sortierplatz` (8 passes, swaps on strictly fewer points) and gives
+// each the first position holding its points as `platz`.
 template <class Punkte, class Sortierplatz, class Platz>
 void rangiere(Spielstand& s, Punkte punkte, Sortierplatz sortierplatz, Platz platz) {
     auto aufPosition = [&](int n) {
@@ -233,8 +167,7 @@ void rangiere(Spielstand& s, Punkte punkte, Sortierplatz sortierplatz, Platz pla
     };
     for (int durchgang = 0; durchgang < 8; ++durchgang)
         for (int n = 0; n < 8; ++n) {
-            SpielerAuswertung& a = s.Auswertung[aufPosition(n)];
-            SpielerAuswertung& b = s.Auswertung[aufPosition(n + 1)];
+            SpielerAuswertung &a = s.Auswertung[aufPosition(n)], &b = s.Auswertung[aufPosition(n + 1)];
             if (punkte(a) < punkte(b)) std::swap(sortierplatz(a), sortierplatz(b));
         }
     for (int p = 0; p < MaxSpieler; ++p)
@@ -250,10 +183,8 @@ void rangiereSpieler(Spielstand& s) {
             s, [&](SpielerAuswertung& a) { return a.SpieltagPunkte[tag]; },
             [&](SpielerAuswertung& a) -> i16& { return a.SptgSortierplatz[tag]; },
             [&](SpielerAuswertung& a) -> i16& { return a.SptgPlatz[tag]; });
-        for (int p = 0; p < MaxSpieler; ++p) {
-            SpielerAuswertung& a = s.Auswertung[p];
+        for (SpielerAuswertung& a : s.Auswertung)
             a.Platzierungen[a.SptgPlatz[tag]] += 1;
-        }
     }
     rangiere(
         s, [](SpielerAuswertung& a) { return a.GesamtPunkte; },
@@ -264,15 +195,24 @@ void rangiereSpieler(Spielstand& s) {
 }  // namespace
 
 void werteSchlichtAus(Spielstand& s, bool sonntagsspieleAuslassen) {
-    setzeZurueck(s);
+    s.verwirfAuswertung();
+    for (int t = 0; t < MaxTeams; ++t)
+        s.Tabelle[t].Name = s.Teamname[t];
     // A negative count leaves no matchday (or match) to evaluate; one past the arrays is an error.
     if (s.AnzSpieltage >= MaxSpieltage || s.AnzSpiele >= MaxSpiele)
         throw Laufzeitfehler(Laufzeitfehler::Index);
-    const Regeln regeln{s, sonntagsspieleAuslassen};
-    pruefeSpiele(s, regeln);
+    for (int tag = 0; tag <= s.AnzSpieltage; ++tag)
+        for (int spiel = 0; spiel <= s.AnzSpiele; ++spiel) {
+            if (!gewertet(s, sonntagsspieleAuslassen, tag, spiel)) continue;
+            in16(Zahl{s.Ergebnis[tag][spiel][0]} - s.Ergebnis[tag][spiel][1], [&] {
+                return "beim Ergebnis des " + std::to_string(spiel + 1) + ". Spiels " + amSpieltag(tag);
+            });
+            for (const i16 team : s.Paarung[tag][spiel])
+                pruefeBereich(team, MaxTeams);
+        }
     for (int p = 0; p < MaxSpieler; ++p)
-        werteSpielerAus(s, regeln, p);
-    zaehleTabelle(s, regeln);
+        werteSpielerAus(s, sonntagsspieleAuslassen, p);
+    zaehleTabelle(s, sonntagsspieleAuslassen);
     sortiereTabelle(s);
     rangiereSpieler(s);
 }

@@ -1,30 +1,31 @@
-// The evaluation runs on every goal click; it must not touch the heap. This file replaces the
-// global operator new of the test program to count allocations (and to fail one on request).
+// This program's global operator new counts every allocation and fails one on request: the evaluation runs on
+// every goal click and must not touch the heap; a lack of memory ends a command with a German message.
 #include <gtest/gtest.h>
 
 #include <atomic>
 #include <cstdlib>
 #include <new>
+#include <sstream>
 
+#include "cli/befehle.h"
 #include "scoring/auswahl.h"
 #include "scoring/auswertung.h"
-#include "speicher.h"
+#include "state/spieldatei.h"
 #include "testdaten.h"
 
 namespace {
 std::atomic<long> anforderungen{0};
-}
-
-std::atomic<bool> kalimbo::test::naechsteAnforderungScheitert{false};
+std::atomic<bool> naechsteScheitert{false};
+}  // namespace
 
 void* operator new(std::size_t groesse) {
     anforderungen.fetch_add(1, std::memory_order_relaxed);
-    if (kalimbo::test::naechsteAnforderungScheitert.exchange(false)) throw std::bad_alloc();
+    if (naechsteScheitert.exchange(false)) throw std::bad_alloc();
     if (void* p = std::malloc(groesse == 0 ? 1 : groesse)) return p;
     throw std::bad_alloc();
 }
-// The nothrow form too (std::stable_sort's buffer uses it), so that every operator delete below
-// frees only what malloc gave; the sanitizers' own nothrow new would not pair with free().
+// The nothrow form too (std::stable_sort's buffer uses it), so that every operator delete below frees only
+// what malloc gave; the sanitizers' own nothrow new would not pair with free().
 void* operator new(std::size_t groesse, const std::nothrow_t&) noexcept {
     try {
         return operator new(groesse);
@@ -46,7 +47,7 @@ namespace {
 
 TEST(Speicher, AuswertungHoltNichtsVomHeap) {
     Spielstand s;
-    s.oeffne(test::saison(test::Saison20));
+    s.oeffne(test::saison(test::Saison20));  // team names longer than a string holds in place
     for (int p = 0; p < MaxSpieler; ++p)
         for (int tag = 0; tag <= s.AnzSpieltage; ++tag)
             for (int spiel = 0; spiel <= s.AnzSpiele; ++spiel)
@@ -66,6 +67,16 @@ TEST(Speicher, AuswertungHoltNichtsVomHeap) {
     int* volatile zahl = new int(1);  // the counter does see allocations
     delete zahl;
     EXPECT_EQ(anforderungen.load() - probe, 1);
+}
+
+TEST(Speicher, AuchOhneSpeicherEineDeutscheMeldung) {
+    test::TempOrdner ordner;
+    const std::vector<std::string> aufruf{"info", (ordner / "spiel.tip").string()};
+    speichereSpieldatei(aufruf[1], Dateiinhalt{});
+    std::ostringstream aus, fehler;
+    naechsteScheitert = true;
+    EXPECT_EQ(cli::fuehreAus(aufruf, aus, fehler), 1);
+    EXPECT_EQ(fehler.str(), "Fehler: Nicht genug Arbeitsspeicher; der Vorgang wurde abgebrochen.\n");
 }
 
 }  // namespace

@@ -5,68 +5,47 @@
 #include <QSettings>
 
 #include "state/spieldatei.h"
+#include "testdaten.h"
 #include "ui/haupt/wiederherstellung.h"
 
 namespace kalimbo::ui::test {
 
-namespace {
-
-void setzeTore(Ergebnisse& ziel, int spieltag, const char* text) {
-    int spiel = 0;
-    for (const QString& paar : QString::fromUtf8(text).split(' ', Qt::SkipEmptyParts)) {
-        const QStringList tore = paar.split(':');
-        ziel[spieltag][spiel++] = {{static_cast<i16>(tore[0].toInt()), static_cast<i16>(tore[1].toInt())}};
-    }
-}
-
-const char* const Staedte[] = {"Aachen",    "Bochum",   "Cottbus", "Dresden",    "Essen",
-                               "Fürth",     "Gießen",   "Hamburg", "Ingolstadt", "Jena",
-                               "Kiel",      "Leipzig",  "Mainz",   "Nürnberg",   "Offenbach",
-                               "Paderborn", "Querfurt", "Rostock", "Stuttgart",  "Trier"};
-
-}  // namespace
-
 Dateiinhalt kleinesSpiel(int teams) {
-    Dateiinhalt d;
-    const int spiele = teams / 2;
-    d.AnzTeams = static_cast<i16>(teams - 1);
-    d.AnzSpiele = static_cast<i16>(spiele - 1);
-    d.AnzSpieltage = static_cast<i16>(2 * teams - 3);
-    d.AnzTippfelder = static_cast<i16>(MaxSpieler * spiele - 1);
+    static const std::vector<std::string> Staedte{
+        "Aachen",    "Bochum",     "Cottbus",  "Dresden", "Essen",     "Fürth|FÜR", "Gießen",
+        "Hamburg",   "Ingolstadt", "Jena",     "Kiel",    "Leipzig",   "Mainz",     "Nürnberg|NÜR",
+        "Offenbach", "Paderborn",  "Querfurt", "Rostock", "Stuttgart", "Trier"};
+    // Matchday 0: 2k - 2k+1; later matchdays shift the away side round.
+    const kalimbo::test::Paarung verschoben = [teams](int tag, int k) {
+        return std::array{(2 * k + tag) % teams, (2 * k + 1 + tag) % teams};
+    };
+    Spielstand s = kalimbo::test::liga({Staedte.begin(), Staedte.begin() + teams}, 2 * teams - 2, verschoben,
+                                       "Anna Bernd -Clara Dieter");
     for (int t = 0; t < teams; ++t) {
-        d.Teamname[t] = Staedte[t];
-        d.TeamnameKurz[t] = QString::fromUtf8(Staedte[t]).left(3).toUpper().toStdString();
         // Two of each position colour from the top, white below: Meister, CL, CL-Quali, UEFA, ...
         const Farbe farben[] = {rgb(255, 0, 0), rgb(245, 183, 35), rgb(255, 204, 51), rgb(255, 255, 0),
                                 rgb(255, 255, 192)};
-        d.TabFarbe[t] = t < 5 ? farben[t] : (t < teams - 3 ? rgb(255, 255, 192) : rgb(255, 255, 255));
+        s.TabFarbe[t] = t < 5 ? farben[t] : (t < teams - 3 ? rgb(255, 255, 192) : rgb(255, 255, 255));
     }
-    for (int tag = 0; tag <= d.AnzSpieltage; ++tag)
-        for (int k = 0; k < spiele; ++k) {
-            // Matchday 0: 2k - 2k+1; later matchdays shift the away side round.
-            const int heim = (2 * k + tag) % teams;
-            const int gast = (2 * k + 1 + tag) % teams;
-            d.Paarung[tag][k] = {{static_cast<i16>(heim), static_cast<i16>(gast)}};
-        }
-    setzeTore(d.ErgebnisDatei, 0, "2:1 1:3 3:0 0:2 4:2 1:0 0:1 2:0 1:2");
-    setzeTore(d.ErgebnisDatei, 1, "1:0 2:2 0:3 2:1 1:2 3:1 0:1 2:0 1:3");
-    d.Spielername = {{"Anna", "Bernd", "Clara", "Dieter"}};
-    d.Teilnehmer = {{1, 1, 0, 1, 0, 0, 0, 0, 0}};
-    setzeTore(d.TippDatei[Anna], 0, "2:1 1:3 3:0");
-    setzeTore(d.TippDatei[Bernd], 0, "3:2 0:2");
-    setzeTore(d.TippDatei[Bernd], 1, "1:0 2:2 0:3 2:1");
-    setzeTore(d.TippDatei[Clara], 0, "2:1 1:3 3:0 0:2");
-    setzeTore(d.TippDatei[Dieter], 0, "5:0 0:5 5:0 0:5 5:0");
-    setzeTore(d.TippDatei[Dieter], 1, "2:1 1:1 0:2 2:0");
-    d.SptgAuswerten[0] = d.SptgAuswerten[1] = 1;
-    d.AktSpieltagGlobal = 1;
-    d.SonntagSpiele = {{7, 8}};
-    d.Modus = 2;
-    d.LigaInfo[0] = "Testliga";
-    d.Trainerwechsel[0] = {1, "Trainer Alt", 0, 16};
-    d.Trainerwechsel[1] = {1, "Trainer Neu", 17, 99};
-    d.Trainerwechsel[2] = {0, "Trainer Weg", 3, 5};
-    return d;
+    using kalimbo::test::setzeErgebnisse, kalimbo::test::setzeTipps;
+    setzeErgebnisse(s, 0, "2:1 1:3 3:0 0:2 4:2 1:0 0:1 2:0 1:2");
+    setzeErgebnisse(s, 1, "1:0 2:2 0:3 2:1 1:2 3:1 0:1 2:0 1:3");
+    setzeTipps(s, Anna, 0, "2:1 1:3 3:0");
+    setzeTipps(s, Bernd, 0, "3:2 0:2");
+    setzeTipps(s, Bernd, 1, "1:0 2:2 0:3 2:1");
+    setzeTipps(s, Clara, 0, "2:1 1:3 3:0 0:2");
+    setzeTipps(s, Dieter, 0, "5:0 0:5 5:0 0:5 5:0");
+    setzeTipps(s, Dieter, 1, "2:1 1:1 0:2 2:0");
+    s.kopiereArbeitInDatei();
+    s.SptgAuswerten[0] = s.SptgAuswerten[1] = 1;
+    s.AktSpieltagGlobal = 1;
+    s.SonntagSpiele = {{7, 8}};
+    s.Modus = 2;
+    s.LigaInfo[0] = "Testliga";
+    s.Trainerwechsel[0] = {1, "Trainer Alt", 0, 16};
+    s.Trainerwechsel[1] = {1, "Trainer Neu", 17, 99};
+    s.Trainerwechsel[2] = {0, "Trainer Weg", 3, 5};
+    return s;
 }
 
 Hauptfenster::Hauptfenster() : Hauptfenster(Wiederherstellen{Dialoge::Antwort::Nein}) {}
