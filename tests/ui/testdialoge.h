@@ -1,12 +1,18 @@
 #pragma once
 
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
 #include <QStringList>
 
 #include "ui/bausteine/dialoge.h"
+#include "ui/frmergebnisbericht.h"
+#include "ui/frmzuordnung.h"
 
 namespace kalimbo::ui::test {
 
-// Answers the dialogs from prepared lists and records what was asked and shown.
+// Answers the dialogs from prepared lists and records what was asked and shown. The pairing and
+// summary dialogs are made (not shown), read and answered through their controls.
 class TestDialoge : public Dialoge {
   public:
     QStringList antworten;             // paths chosen in the next file dialogs; "" = cancelled
@@ -18,6 +24,11 @@ class TestDialoge : public Dialoge {
     QList<Antwort> jaNein;             // answers to the next questions; "Nein" when none is left
     QStringList speicherfragen;        // games asked about before they go
     QList<Antwort> speicherantworten;  // answers to those; "Verwerfen" (Nein) when none is left
+    QList<QStringList> zuordnungen;    // the rows of the pairing dialogs shown: "NAME=TEAM" as set
+    // Answers to the next ones: "NAME=TEAM" chosen, then OK; nullopt: Abbrechen; none left: OK.
+    QList<std::optional<QStringList>> zuordnungsantworten;
+    QStringList berichte;  // the summaries shown, "\n[ersetzen]" added when replacing is offered
+    QList<bool> ersetzen;  // whether the next summaries are answered "Abweichende ersetzen"
 
     QString oeffnen(QWidget*, const QString& t, const QString& f) override {
         titel << t;
@@ -38,6 +49,30 @@ class TestDialoge : public Dialoge {
     Antwort speichernFragen(QWidget*, const QString& name) override {
         speicherfragen << name;
         return speicherantworten.isEmpty() ? Antwort::Nein : speicherantworten.takeFirst();
+    }
+    std::optional<QList<int>> zuordnen(QWidget* eltern, const Zuordnungsfrage& frage) override {
+        frmZuordnung dialog(eltern, frage);
+        auto zeile = [&](int i) {
+            return std::pair{dialog.findChild<QLabel*>(QStringLiteral("lblQuelle_%1").arg(i)),
+                             dialog.findChild<QComboBox*>(QStringLiteral("cboTeam_%1").arg(i))};
+        };
+        QStringList zeilen;
+        for (int i = 0; i < frage.namen.size(); ++i)
+            zeilen << zeile(i).first->text() + "=" + zeile(i).second->currentText();
+        zuordnungen << zeilen;
+        const auto antwort = zuordnungsantworten.isEmpty() ? QStringList() : zuordnungsantworten.takeFirst();
+        if (!antwort) return std::nullopt;
+        for (const QString& paar : *antwort)
+            zeile(frage.namen.indexOf(paar.section('=', 0, 0))).second->setCurrentText(paar.section('=', 1));
+        return dialog.auswahl();
+    }
+    bool ergebnisbericht(QWidget* eltern, const QString& text, bool ersetzbar) override {
+        frmErgebnisbericht dialog(eltern, text, ersetzbar);
+        auto* knopf = dialog.findChild<QPushButton*>(QStringLiteral("cmdErsetzen"));
+        berichte << dialog.findChild<QLabel*>(QStringLiteral("lblBericht"))->text() +
+                        (knopf->isHidden() ? "" : "\n[ersetzen]");
+        if (!ersetzen.isEmpty() && ersetzen.takeFirst()) knopf->click();
+        return dialog.ersetzen();
     }
 };
 

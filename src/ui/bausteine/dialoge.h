@@ -1,10 +1,21 @@
 #pragma once
 
-#include <QString>
+#include <QList>
+#include <QStringList>
+#include <optional>
 
 class QWidget;
 
 namespace kalimbo::ui {
+
+// What the pairing dialog asks: below `text`, one row for each of `namen` with a choice of
+// `teams`, set to the team of `vorschlaege` at the same place.
+struct Zuordnungsfrage {
+    QString text;
+    QStringList namen;
+    QList<int> vorschlaege;
+    QStringList teams;
+};
 
 // Every dialog that blocks (file choice, message box) goes through this interface, so that tests
 // can answer them without showing anything.
@@ -25,6 +36,10 @@ class Dialoge {
     // Whether to save the changes of the game named `name` before it goes: "Speichern" (Ja),
     // "Verwerfen" (Nein) or "Abbrechen"; Escape cancels.
     virtual Antwort speichernFragen(QWidget* eltern, const QString& name) = 0;
+    // The team chosen for each name (an index into `teams`); nothing when the user cancelled.
+    virtual std::optional<QList<int>> zuordnen(QWidget* eltern, const Zuordnungsfrage& frage) = 0;
+    // The summary of a results import; `ersetzbar` offers "Abweichende ersetzen": true when chosen.
+    virtual bool ergebnisbericht(QWidget* eltern, const QString& text, bool ersetzbar) = 0;
 };
 
 // The real dialogs.
@@ -36,11 +51,16 @@ class QtDialoge : public Dialoge {
     void meldung(QWidget* eltern, const QString& text) override;
     Antwort frage(QWidget* eltern, const QString& text) override;
     Antwort speichernFragen(QWidget* eltern, const QString& name) override;
+    std::optional<QList<int>> zuordnen(QWidget* eltern, const Zuordnungsfrage& frage) override;
+    bool ergebnisbericht(QWidget* eltern, const QString& text, bool ersetzbar) override;
 };
 
 // The game file to open (also to merge tips from, or to read coach periods from), as an absolute
 // path; empty when the user cancelled.
 QString waehleSpieldatei(Dialoge& dialoge, QWidget* eltern);
+// A fixture list or result file (football.json, CSV) to read, as an absolute path; empty when
+// cancelled.
+QString waehleQuelldatei(Dialoge& dialoge, QWidget* eltern, const QString& titel);
 // Where to save the game, `vorschlag` proposed, as an absolute path; empty when cancelled.
 QString waehleSpeicherort(Dialoge& dialoge, QWidget* eltern, const QString& vorschlag);
 
