@@ -1,10 +1,7 @@
 // Season data from the main window: a new game from a fixture list, results from a result file
 // with the pairing of team names and the summary. The files are those of the core's tests.
-#include <QFileInfo>
-
 #include "hauptfenster.h"
 
-using namespace kalimbo;
 using namespace kalimbo::ui;
 using namespace kalimbo::ui::test;
 
@@ -16,65 +13,50 @@ class HauptQuellenTest : public QObject {
         h.dialoge.antworten << pfad;
         h.aktion(eintrag)->trigger();
     }
-    // The season 2021/22 without results, saved as saison.tip unless `speichern` is false.
-    static void neueSaison(Hauptfenster& h, bool speichern = true) {
+    // The season 2021/22 without results; saved as saison.tip, matchday `auswahl` selected first.
+    static void neueSaison(Hauptfenster& h, bool speichern = true, int auswahl = -1) {
         waehle(h, "menNeuAusSpielplan", datei("spielplan-2021-22.json"));
+        if (auswahl >= 0) h.klick(h.label("lblAuswahl", auswahl));
         if (speichern) waehle(h, "menSpeichern", h.ordner.filePath("saison.tip"));
     }
 
   private slots:
-    // Unsaved changes are asked about before the file dialog; the new game is unsaved and shown
-    // evaluated, as after opening.
+    // The new game is unsaved, even after a saved one, and shown as after opening. Its changes are
+    // asked about before the next file dialog.
     void neuAusSpielplan() {
         Hauptfenster h;
         h.oeffneSpiel();
-        h.aktion("menReg2")->trigger();
-        h.dialoge.speicherantworten << Dialoge::Antwort::Abbrechen;
-        h.aktion("menNeuAusSpielplan")->trigger();
-        QCOMPARE(h.dialoge.speicherfragen, QStringList{"spiel.tip"});
-        QCOMPARE(h.dialoge.titel.size(), 1);  // the file dialog of opening spiel.tip only
         neueSaison(h, false);
-        QCOMPARE(h.spiel().getLigaInfo(), std::string("Bundesliga 2021/22"));
         QCOMPARE(h.fenster->windowTitle(), QStringLiteral("Neues Tippspiel[*] - Kalimbo"));
         QVERIFY(h.fenster->isWindowModified());
         QCOMPARE(h.label("lblHeimTeam", 0)->text(), QStringLiteral("Borussia Mönchengladbach"));
-        QCOMPARE(h.label("lblTabName", 1)->text(), QStringLiteral("FC Bayern München"));
-        waehle(h, "menSpeichern", h.ordner.filePath("saison.tip"));
-        QCOMPARE(h.dialoge.vorschlaege, QStringList{QString()});
-        QCOMPARE(h.fenster->windowTitle(), QStringLiteral("saison.tip[*] - Kalimbo"));
+        h.dialoge.speicherantworten << Dialoge::Antwort::Abbrechen;
+        h.aktion("menNeuAusSpielplan")->trigger();
+        QCOMPARE(h.dialoge.speicherfragen, QStringList{"Neues Tippspiel"});
+        QCOMPARE(h.dialoge.titel.size(), 2);  // those of opening and making the game only
     }
 
-    void abgelehntAendertNichts_data() {
-        QTest::addColumn<QString>("eintrag");
-        QTest::addColumn<QString>("pfad");
-        QTest::addColumn<QString>("grund");
-        const QString neu = "menNeuAusSpielplan", ergebnisse = "menImpErgebnisse";
-        QTest::newRow("ohne Spieltage") << neu << datei("fd-bom.csv") << "keinen Spielplan";
-        QTest::newRow("2 Mannschaften") << neu << datei("von-hand.csv") << "2 Mannschaften";
-        QTest::newRow("abgeschnitten") << neu << datei("kaputt/abgeschnitten.json") << "unvollständig";
-        QTest::newRow("andere Liga") << ergebnisse
-                                     << KALIMBO_SHARED_DATA "/quellen/openfootball-2024-25-en.1.json"
-                                     << "anderen Liga";
-        QTest::newRow("doppelt") << ergebnisse << datei("kaputt/doppelt.csv") << "steht schon in Zeile 2";
-    }
+    // Each with a message naming the file and the reason; no pairing is asked for.
     void abgelehntAendertNichts() {
-        QFETCH(QString, eintrag);
-        QFETCH(QString, pfad);
-        QFETCH(QString, grund);
         Hauptfenster h;
         neueSaison(h);
-        const Spielstand vorher = h.spiel();
-        waehle(h, eintrag, pfad);
-        const QStringList m = h.meldungen();
-        QVERIFY2(m.size() == 1 && m[0].contains(grund) && m[0].contains(QFileInfo(pfad).fileName()),
-                 qPrintable(m.join('|')));
-        QVERIFY(static_cast<const Dateiinhalt&>(h.spiel()) == vorher &&
+        const auto vorher = h.spiel();
+        for (const auto& [eintrag, pfad, grund] :
+             {std::tuple{"menNeuAusSpielplan", datei("fd-bom.csv"), "keinen Spielplan"},
+              {"menImpErgebnisse", KALIMBO_SHARED_DATA "/quellen/openfootball-2024-25-en.1.json",
+               "anderen Liga"},
+              {"menImpErgebnisse", datei("kaputt/doppelt.csv"), "steht schon in Zeile 2"}}) {
+            waehle(h, eintrag, pfad);
+            const QStringList m = h.meldungen();
+            QVERIFY2(m.size() == 1 && m[0].contains(grund) && m[0].contains(pfad.section('/', -1)),
+                     qPrintable(m.join('|')));
+        }
+        QVERIFY(static_cast<const kalimbo::Dateiinhalt&>(h.spiel()) == vorher &&
                 h.spiel().Ergebnis == vorher.Ergebnis);
-        QVERIFY(!h.fenster->isWindowModified());
-        QVERIFY(h.dialoge.zuordnungen.isEmpty() && h.dialoge.berichte.isEmpty());
+        QVERIFY(!h.fenster->isWindowModified() && h.dialoge.zuordnungen.isEmpty());
     }
 
-    // Open names are paired in the dialog, set to the best guess. Abbrechen takes nothing. The pairs
+    // Open names are paired in the dialog, set to the best guess; Abbrechen takes nothing. The pairs
     // are remembered for the game's file, not for a game without one, and used again without asking.
     void zuordnungWirdFuerDieSpieldateiGemerkt() {
         Hauptfenster h;
@@ -82,46 +64,39 @@ class HauptQuellenTest : public QObject {
         const QStringList paare{"Borussia=Borussia Mönchengladbach", "FC Koln=1. FC Union Berlin"};
         h.dialoge.zuordnungsantworten << paare << std::nullopt << paare;
         waehle(h, "menImpErgebnisse", datei("unklar.csv"));
-        const QStringList vorschlaege{"Borussia=Borussia Dortmund", "Köln=1. FC Köln", "FC Koln=1. FC Köln"};
-        QCOMPARE(h.dialoge.zuordnungen, QList<QStringList>{vorschlaege});
-        const Ergebnisse vorher = h.spiel().Ergebnis;
+        QCOMPARE(h.dialoge.zuordnungen[0],
+                 QStringList({"Borussia=Borussia Dortmund", "Köln=1. FC Köln", "FC Koln=1. FC Köln"}));
+        QCOMPARE(h.spiel().getErgebnis(21, 2, 0), 1);  // Borussia Mönchengladbach - FC Augsburg
+        const auto vorher = h.spiel().Ergebnis;
         waehle(h, "menImpErgebnisse", datei("unklar.csv"));
-        QVERIFY(h.spiel().Ergebnis == vorher);
+        QVERIFY(h.spiel().Ergebnis == vorher && h.dialoge.berichte.size() == 1);  // asked again, cancelled
         waehle(h, "menSpeichern", h.ordner.filePath("saison.tip"));
         waehle(h, "menImpErgebnisse", datei("unklar.csv"));
-        h.neuStarten();
-        h.oeffne(h.ordner.filePath("saison.tip"));
         waehle(h, "menImpErgebnisse", datei("unklar.csv"));
-        QCOMPARE(h.dialoge.zuordnungen.size(), 3);
-        QCOMPARE(h.dialoge.berichte.size(), 3);
-        QVERIFY2(h.dialoge.berichte[0].contains("3 übernommen"), qPrintable(h.dialoge.berichte[0]));
-        QVERIFY(h.dialoge.berichte[2].contains("3 schon eingetragen"));
+        QVERIFY(h.dialoge.zuordnungen.size() == 3 &&
+                h.dialoge.berichte.last().contains("3 schon eingetragen"));
         QVERIFY(!h.fenster->isWindowModified());  // the same file again changes nothing
     }
 
-    void abweichendeBehaltenOderErsetzen_data() {
-        QTest::addColumn<bool>("ersetzen");
-        QTest::newRow("behalten") << false;
-        QTest::newRow("ersetzen") << true;
-    }
-    // A result typed and not yet taken counts as the game's: 7:0, where the file has 3:4. The view
-    // shows the results at once; the figures wait for the next evaluation.
+    // A result typed and not yet taken counts as the game's: 7:0, where the file has 3:4. It is kept,
+    // then replaced when the summary is answered so. The view shows the results at once; the figures
+    // wait for the next evaluation.
     void abweichendeBehaltenOderErsetzen() {
-        QFETCH(bool, ersetzen);
         Hauptfenster h;
-        neueSaison(h);
+        neueSaison(h, true, 3);
         h.zeigeSpieltag(3);
         h.feld("txtHeimErgebnis", 0)->setText("7");
-        h.dialoge.ersetzen << ersetzen;
+        h.dialoge.ersetzen << false << true;
         waehle(h, "menImpErgebnisse", datei("fd-bom.csv"));
-        const QStringList& b = h.dialoge.berichte;
-        QCOMPARE(b.size(), ersetzen ? 2 : 1);
-        QVERIFY2(b[0].contains("8 übernommen") && b[0].endsWith("\n[ersetzen]"), qPrintable(b[0]));
-        QVERIFY(!ersetzen || (b[1].contains("1 abweichend, ersetzt") && !b[1].endsWith("[ersetzen]")));
-        QCOMPARE(h.feld("txtHeimErgebnis", 0)->text(), ersetzen ? "3" : "7");
-        QCOMPARE(h.feld("txtAusErgebnis", 3)->text(), "2");
+        QCOMPARE(h.feld("txtHeimErgebnis", 0)->text() + h.feld("txtAusErgebnis", 3)->text(), "72");
         QCOMPARE(h.label("lblTabPunkte", 1)->text(), "0");
         QVERIFY(h.fenster->isWindowModified());
+        waehle(h, "menImpErgebnisse", datei("fd-bom.csv"));
+        QCOMPARE(h.feld("txtHeimErgebnis", 0)->text(), "3");
+        const QStringList& b = h.dialoge.berichte;
+        QVERIFY2(b.size() == 3 && b[0].contains("8 übernommen") && b[0].endsWith("\n[ersetzen]"),
+                 qPrintable(b[0]));
+        QVERIFY(b[2].contains("1 abweichend, ersetzt") && !b[2].endsWith("[ersetzen]"));
     }
 };
 

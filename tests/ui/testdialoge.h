@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QComboBox>
-#include <QLabel>
 #include <QPushButton>
 #include <QStringList>
 
@@ -24,7 +23,7 @@ class TestDialoge : public Dialoge {
     QList<Antwort> jaNein;             // answers to the next questions; "Nein" when none is left
     QStringList speicherfragen;        // games asked about before they go
     QList<Antwort> speicherantworten;  // answers to those; "Verwerfen" (Nein) when none is left
-    QList<QStringList> zuordnungen;    // the rows of the pairing dialogs shown: "NAME=TEAM" as set
+    QList<QStringList> zuordnungen;    // the rows of the pairing dialogs shown, "NAME=TEAM" as set
     // Answers to the next ones: "NAME=TEAM" chosen, then OK; nullopt: Abbrechen; none left: OK.
     QList<std::optional<QStringList>> zuordnungsantworten;
     QStringList berichte;  // the summaries shown, "\n[ersetzen]" added when replacing is offered
@@ -52,25 +51,20 @@ class TestDialoge : public Dialoge {
     }
     std::optional<QList<int>> zuordnen(QWidget* eltern, const Zuordnungsfrage& frage) override {
         frmZuordnung dialog(eltern, frage);
-        auto zeile = [&](int i) {
-            return std::pair{dialog.findChild<QLabel*>(QStringLiteral("lblQuelle_%1").arg(i)),
-                             dialog.findChild<QComboBox*>(QStringLiteral("cboTeam_%1").arg(i))};
-        };
-        QStringList zeilen;
-        for (int i = 0; i < frage.namen.size(); ++i)
-            zeilen << zeile(i).first->text() + "=" + zeile(i).second->currentText();
-        zuordnungen << zeilen;
+        const QList<QComboBox*> teams = dialog.findChildren<QComboBox*>();
+        zuordnungen << QStringList();
+        for (int i = 0; i < teams.size(); ++i)
+            zuordnungen.last() << frage.namen[i] + "=" + teams[i]->currentText();
         const auto antwort = zuordnungsantworten.isEmpty() ? QStringList() : zuordnungsantworten.takeFirst();
         if (!antwort) return std::nullopt;
         for (const QString& paar : *antwort)
-            zeile(frage.namen.indexOf(paar.section('=', 0, 0))).second->setCurrentText(paar.section('=', 1));
+            teams[frage.namen.indexOf(paar.section('=', 0, 0))]->setCurrentText(paar.section('=', 1));
         return dialog.auswahl();
     }
     bool ergebnisbericht(QWidget* eltern, const QString& text, bool ersetzbar) override {
         frmErgebnisbericht dialog(eltern, text, ersetzbar);
         auto* knopf = dialog.findChild<QPushButton*>(QStringLiteral("cmdErsetzen"));
-        berichte << dialog.findChild<QLabel*>(QStringLiteral("lblBericht"))->text() +
-                        (knopf->isHidden() ? "" : "\n[ersetzen]");
+        berichte << text + (knopf->isHidden() ? "" : "\n[ersetzen]");
         if (!ersetzen.isEmpty() && ersetzen.takeFirst()) knopf->click();
         return dialog.ersetzen();
     }
