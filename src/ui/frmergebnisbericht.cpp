@@ -6,6 +6,8 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include "ui/bausteine/rollflaeche.h"
+
 namespace kalimbo::ui {
 
 frmErgebnisbericht::frmErgebnisbericht(QWidget* eltern, const QString& bericht, bool ersetzbar)
@@ -13,17 +15,13 @@ frmErgebnisbericht::frmErgebnisbericht(QWidget* eltern, const QString& bericht, 
     setObjectName(QStringLiteral("frmErgebnisbericht"));
     setWindowTitle(QStringLiteral("Ergebnisse importiert"));
     auto* spalte = new QVBoxLayout(this);
-    // A long list of differing results scrolls; the text can be selected and copied.
+    // The text can be selected and copied.
     auto* text = new QLabel(bericht);
     text->setObjectName(QStringLiteral("lblBericht"));
     text->setTextFormat(Qt::PlainText);
     text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    auto* rollen = new QScrollArea(this);
-    rollen->setWidget(text);
-    rollen->setWidgetResizable(true);
-    rollen->setFrameShape(QFrame::NoFrame);
-    spalte->addWidget(rollen);
+    spalte->addWidget(rollflaeche(this, text));
     auto* hinweis = new QLabel(
         QStringLiteral("Ausgewertet ist damit noch nichts: Wählen Sie die vollständigen Spieltage aus "
                        "und klicken Sie auf „Auswertung“."),

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "ui/bausteine/elemente.h"
+#include "ui/bausteine/rollflaeche.h"
 
 namespace kalimbo::ui {
 
@@ -20,7 +21,6 @@ frmZuordnung::frmZuordnung(QWidget* eltern, const Zuordnungsfrage& frage) : QDia
     hinweis->setWordWrap(true);
     spalte->addWidget(hinweis);
 
-    // A list longer than the screen scrolls.
     auto* zeilen = new QWidget;
     auto* raster = new QFormLayout(zeilen);
     for (int i = 0; i < frage.namen.size(); ++i) {
@@ -34,11 +34,7 @@ frmZuordnung::frmZuordnung(QWidget* eltern, const Zuordnungsfrage& frage) : QDia
         raster->addRow(name, team);
         m_teams << team;
     }
-    auto* rollen = new QScrollArea(this);
-    rollen->setWidget(zeilen);
-    rollen->setWidgetResizable(true);
-    rollen->setFrameShape(QFrame::NoFrame);
-    spalte->addWidget(rollen);
+    spalte->addWidget(rollflaeche(this, zeilen));
 
     auto* knoepfe = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     knoepfe->button(QDialogButtonBox::Ok)->setText(QStringLiteral("OK"));
@@ -46,6 +42,8 @@ frmZuordnung::frmZuordnung(QWidget* eltern, const Zuordnungsfrage& frage) : QDia
     connect(knoepfe, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(knoepfe, &QDialogButtonBox::rejected, this, &QDialog::reject);
     spalte->addWidget(knoepfe);
+    setMinimumWidth(fontMetrics().averageCharWidth() * 64);
+    if (!m_teams.isEmpty()) m_teams.first()->setFocus();
 }
 
 QList<int> frmZuordnung::auswahl() const {

@@ -44,6 +44,24 @@ void merkePaare(const std::string& spieldatei, const Paare& paare) {
         g.s.setValue(QString::fromLatin1(QByteArray::fromStdString(name).toPercentEncoding()), team);
 }
 
+// The question of the pairing dialog for the names `z` leaves open.
+Zuordnungsfrage frage(const Zuordnung& z, const Quelle& quelle, const Spielstand& spiel) {
+    Zuordnungsfrage f;
+    f.text = QStringLiteral(
+                 "Diese Mannschaften aus „%1“ passen zu keiner Mannschaft des Tippspiels oder zu mehreren. "
+                 "Wählen Sie zu jeder die richtige aus.")
+                 .arg(QFileInfo(text(quelle.datei)).fileName());
+    if (!spiel.Dateipfad.empty())
+        f.text += QStringLiteral(" Die Zuordnung gilt für dieses Tippspiel auch beim nächsten Mal.");
+    for (const Zuordnung::Offen& o : z.offen) {
+        f.namen << text(o.name);
+        f.vorschlaege << o.vorschlag;
+    }
+    for (int t = 0; t <= spiel.getAnzTeams(); ++t)
+        f.teams << text(spiel.getTeamName(t));
+    return f;
+}
+
 }  // namespace
 
 Ergebnisabgleich::Ergebnisabgleich(QWidget* fenster, Dialoge& dialoge, Dokument& dokument,
@@ -55,6 +73,8 @@ Ergebnisabgleich::Ergebnisabgleich(QWidget* fenster, Dialoge& dialoge, Dokument&
       m_spiel(spiel),
       m_eintraege(std::move(eintraege)) {}
 
+// What was typed into the boxes is taken first, so that a result typed there counts as the game's.
+// Replacing starts from the same game again, so that its summary counts as the first one does.
 void Ergebnisabgleich::menImpErgebnisse_Click() {
     const QString pfad =
         waehleQuelldatei(m_dialoge, m_fenster, QStringLiteral("Wählen Sie die Datei mit den Ergebnissen!"));
@@ -62,11 +82,13 @@ void Ergebnisabgleich::menImpErgebnisse_Click() {
     const Quelle quelle = ladeQuelle(QFile::encodeName(pfad).toStdString());
     const std::optional<Zuordnung> zuordnung = ordneZu(quelle);
     if (!zuordnung) return;
-    const Ergebnisbericht bericht = uebernimm(quelle, *zuordnung, false);
+    Spielstand vorher = m_spiel;
+    uebernimmEintraege(vorher, m_eintraege());
+    const Ergebnisbericht bericht = uebernimm(vorher, quelle, *zuordnung, false);
     const bool ersetzbar = !bericht.abweichend.empty();
     if (m_dialoge.ergebnisbericht(m_fenster, text(berichtText(bericht, m_spiel)), ersetzbar) && ersetzbar)
-        m_dialoge.ergebnisbericht(m_fenster, text(berichtText(uebernimm(quelle, *zuordnung, true), m_spiel)),
-                                  false);
+        m_dialoge.ergebnisbericht(
+            m_fenster, text(berichtText(uebernimm(vorher, quelle, *zuordnung, true), m_spiel)), false);
 }
 
 // Pairing a name can take a team from a name that fitted it before: asked again until none is open.
@@ -77,20 +99,7 @@ std::optional<Zuordnung> Ergebnisabgleich::ordneZu(const Quelle& quelle) {
         Zuordnung z = kalimbo::ordneZu(quelle.mannschaften(), m_spiel, vereine, paare);
         if (!z.andereLiga.empty()) throw Dateifehler(quelle.vorsatz() + z.andereLiga);
         if (z.offen.empty()) return z;
-        Zuordnungsfrage frage;
-        frage.text = QStringLiteral(
-                         "Diese Mannschaften aus „%1“ passen zu keiner Mannschaft des Tippspiels "
-                         "oder zu mehreren. Wählen Sie zu jeder die richtige aus.")
-                         .arg(QFileInfo(text(quelle.datei)).fileName());
-        if (!m_spiel.Dateipfad.empty())
-            frage.text += QStringLiteral(" Die Zuordnung gilt für dieses Tippspiel auch beim nächsten Mal.");
-        for (const Zuordnung::Offen& o : z.offen) {
-            frage.namen << text(o.name);
-            frage.vorschlaege << o.vorschlag;
-        }
-        for (int t = 0; t <= m_spiel.getAnzTeams(); ++t)
-            frage.teams << text(m_spiel.getTeamName(t));
-        const std::optional<QList<int>> auswahl = m_dialoge.zuordnen(m_fenster, frage);
+        const std::optional<QList<int>> auswahl = m_dialoge.zuordnen(m_fenster, frage(z, quelle, m_spiel));
         if (!auswahl) return std::nullopt;
         Paare neu;
         for (std::size_t i = 0; i < z.offen.size(); ++i)
@@ -100,12 +109,10 @@ std::optional<Zuordnung> Ergebnisabgleich::ordneZu(const Quelle& quelle) {
     }
 }
 
-// What was typed into the boxes is taken first, so that a result typed there counts as the game's.
-Ergebnisbericht Ergebnisabgleich::uebernimm(const Quelle& quelle, const Zuordnung& zuordnung, bool ersetzen) {
-    Spielstand mitEintraegen = m_spiel;
-    const bool eingetragen = uebernimmEintraege(mitEintraegen, m_eintraege());
-    Ergebnisuebernahme u = uebernimmErgebnisse(mitEintraegen, quelle, zuordnung, ersetzen);
-    const bool geaendert = eingetragen || u.spiel.Ergebnis != m_spiel.Ergebnis;
+Ergebnisbericht Ergebnisabgleich::uebernimm(const Spielstand& vorher, const Quelle& quelle,
+                                            const Zuordnung& zuordnung, bool ersetzen) {
+    Ergebnisuebernahme u = uebernimmErgebnisse(vorher, quelle, zuordnung, ersetzen);
+    const bool geaendert = u.spiel.Ergebnis != m_spiel.Ergebnis || u.spiel.Tipp != m_spiel.Tipp;
     m_dokument.aendere([&](Spielstand& s) { s = std::move(u.spiel); }, {.daten = geaendert});
     emit ergebnisseGeaendert();
     return u.bericht;

@@ -45,7 +45,9 @@ class Ergebnisabgleich : public QObject {
     // The file's names paired with the game's teams, asking for those still open; nothing when the
     // user cancelled.
     std::optional<Zuordnung> ordneZu(const Quelle& quelle);
-    Ergebnisbericht uebernimm(const Quelle& quelle, const Zuordnung& zuordnung, bool ersetzen);
+    // The results taken into `vorher` (the game with what is typed) become the game.
+    Ergebnisbericht uebernimm(const Spielstand& vorher, const Quelle& quelle, const Zuordnung& zuordnung,
+                              bool ersetzen);
 };
 
 }  // namespace kalimbo::ui
