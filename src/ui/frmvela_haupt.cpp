@@ -25,6 +25,7 @@
 #include "ui/haupt/bedienfeld.h"
 #include "ui/haupt/blitztabelle.h"
 #include "ui/haupt/dokument.h"
+#include "ui/haupt/ergebnisabgleich.h"
 #include "ui/haupt/infobox.h"
 #include "ui/haupt/saisonlayout.h"
 #include "ui/haupt/spieltagsansicht.h"
@@ -100,10 +101,15 @@ void frmVela_Haupt::verbindePanels() {
 
 void frmVela_Haupt::verbindeMenue() {
     const Hauptmenue& m = m_menue;
+    verbinde(m.menNeuAusSpielplan, [this] { m_dokument->menNeuAusSpielplan_Click(); });
     verbinde(m.menOeffnen, [this] { m_dokument->menOeffnen_Click(); });
     verbinde(m.menSpeichern, [this] { m_dokument->menSpeichern_Click(); });
     verbinde(m.menTippdatei, [this] { m_dokument->menTippdatei_Click(); });
     verbinde(m.menImpTrainer, [this] { m_dokument->menImpTrainer_Click(); });
+    auto* ergebnisse = new Ergebnisabgleich(this, m_dialoge, *m_dokument, m_spiel,
+                                            [this] { return m_ansicht->eintraege(); });
+    verbinde(m.menImpErgebnisse, [ergebnisse] { ergebnisse->menImpErgebnisse_Click(); });
+    connect(ergebnisse, &Ergebnisabgleich::ergebnisseGeaendert, this, [this] { zeichneSpieltag(); });
     for (int i = 0; i < 3; ++i)
         verbinde(m.menRecent[static_cast<std::size_t>(i)], [this, i] { m_dokument->menRecent_Click(i); });
     connect(m.menBeenden, &QAction::triggered, this, [this] {

@@ -2,14 +2,19 @@
 
 #include <QPageLayout>
 #include <QPrinter>
+#include <QComboBox>
+#include <QPushButton>
 #include <QStringList>
 #include <QTemporaryDir>
 
 #include "ui/bausteine/dialoge.h"
+#include "ui/frmergebnisbericht.h"
+#include "ui/frmzuordnung.h"
 
 namespace kalimbo::ui::test {
 
-// Answers the dialogs from prepared lists and records what was asked and shown.
+// Answers the dialogs from prepared lists and records what was asked and shown. The pairing and
+// summary dialogs are made (not shown), read and answered through their controls.
 class TestDialoge : public Dialoge {
   public:
     QStringList antworten;             // paths chosen in the next file dialogs; "" = cancelled
@@ -23,6 +28,11 @@ class TestDialoge : public Dialoge {
     QList<Antwort> speicherantworten;  // answers to those; "Verwerfen" (Nein) when none is left
     QList<QByteArray> vorschauen;      // every print preview shown, as the PDF of its pages
     int druckdialoge = 0;              // print dialogs shown, each cancelled
+    QList<QStringList> zuordnungen;    // the rows of the pairing dialogs shown, "NAME=TEAM" as set
+    // Answers to the next ones: "NAME=TEAM" chosen, then OK; nullopt: Abbrechen; none left: OK.
+    QList<std::optional<QStringList>> zuordnungsantworten;
+    QStringList berichte;  // the summaries shown, "\n[ersetzen]" added when replacing is offered
+    QList<bool> ersetzen;  // whether the next summaries are answered "Abweichende ersetzen"
 
     QString oeffnen(QWidget*, const QString& t, const QString& f) override {
         titel << t;
@@ -55,6 +65,25 @@ class TestDialoge : public Dialoge {
     Antwort speichernFragen(QWidget*, const QString& name) override {
         speicherfragen << name;
         return speicherantworten.isEmpty() ? Antwort::Nein : speicherantworten.takeFirst();
+    }
+    std::optional<QList<int>> zuordnen(QWidget* eltern, const Zuordnungsfrage& frage) override {
+        frmZuordnung dialog(eltern, frage);
+        const QList<QComboBox*> teams = dialog.findChildren<QComboBox*>();
+        zuordnungen << QStringList();
+        for (int i = 0; i < teams.size(); ++i)
+            zuordnungen.last() << frage.namen[i] + "=" + teams[i]->currentText();
+        const auto antwort = zuordnungsantworten.isEmpty() ? QStringList() : zuordnungsantworten.takeFirst();
+        if (!antwort) return std::nullopt;
+        for (const QString& paar : *antwort)
+            teams[frage.namen.indexOf(paar.section('=', 0, 0))]->setCurrentText(paar.section('=', 1));
+        return dialog.auswahl();
+    }
+    bool ergebnisbericht(QWidget* eltern, const QString& text, bool ersetzbar) override {
+        frmErgebnisbericht dialog(eltern, text, ersetzbar);
+        auto* knopf = dialog.findChild<QPushButton*>(QStringLiteral("cmdErsetzen"));
+        berichte << text + (knopf->isHidden() ? "" : "\n[ersetzen]");
+        if (!ersetzen.isEmpty() && ersetzen.takeFirst()) knopf->click();
+        return dialog.ersetzen();
     }
 };
 

@@ -10,6 +10,9 @@
 #include <array>
 #include <utility>
 
+#include "ui/frmergebnisbericht.h"
+#include "ui/frmzuordnung.h"
+
 namespace kalimbo::ui {
 
 QString qtFilter(const QString& filter) {
@@ -36,6 +39,12 @@ QString absolut(const QString& pfad) {
 QString waehleSpieldatei(Dialoge& dialoge, QWidget* eltern) {
     return absolut(dialoge.oeffnen(eltern, QStringLiteral("Wählen Sie den gespeicherten Spielstand!"),
                                    Spieldateifilter));
+}
+
+QString waehleQuelldatei(Dialoge& dialoge, QWidget* eltern, const QString& titel) {
+    return absolut(dialoge.oeffnen(
+        eltern, titel,
+        QStringLiteral("Spielpläne und Ergebnisse (*.json *.csv)|*.json *.csv|Alle Dateien|*.*")));
 }
 
 QString waehleSpeicherort(Dialoge& dialoge, QWidget* eltern, const QString& vorschlag) {
@@ -110,6 +119,18 @@ bool QtDialoge::drucken(QWidget* eltern, QPrinter& drucker) {
     QPrintDialog dialog(&drucker, eltern);
     dialog.setWindowTitle(QStringLiteral("Drucken"));
     return dialog.exec() == QDialog::Accepted;
+}
+
+std::optional<QList<int>> QtDialoge::zuordnen(QWidget* eltern, const Zuordnungsfrage& frage) {
+    frmZuordnung dialog(eltern, frage);
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    return dialog.auswahl();
+}
+
+bool QtDialoge::ergebnisbericht(QWidget* eltern, const QString& text, bool ersetzbar) {
+    frmErgebnisbericht dialog(eltern, text, ersetzbar);
+    dialog.exec();
+    return dialog.ersetzen();
 }
 
 }  // namespace kalimbo::ui

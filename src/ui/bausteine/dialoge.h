@@ -2,11 +2,23 @@
 
 #include <QString>
 #include <functional>
+#include <QList>
+#include <QStringList>
+#include <optional>
 
 class QPrinter;
 class QWidget;
 
 namespace kalimbo::ui {
+
+// What the pairing dialog asks: below `text`, one row for each of `namen` with a choice of
+// `teams`, set to the team of `vorschlaege` at the same place.
+struct Zuordnungsfrage {
+    QString text;
+    QStringList namen;
+    QList<int> vorschlaege;
+    QStringList teams;
+};
 
 // Every dialog that blocks (file choice, message box) goes through this interface, so that tests
 // can answer them without showing anything.
@@ -32,6 +44,10 @@ class Dialoge {
                                const std::function<void(QPrinter*)>& malen) = 0;
     // The print dialog for `drucker`; true when the user chose to print.
     virtual bool drucken(QWidget* eltern, QPrinter& drucker) = 0;
+    // The team chosen for each name (an index into `teams`); nothing when the user cancelled.
+    virtual std::optional<QList<int>> zuordnen(QWidget* eltern, const Zuordnungsfrage& frage) = 0;
+    // The summary of a results import; `ersetzbar` offers "Abweichende ersetzen": true when chosen.
+    virtual bool ergebnisbericht(QWidget* eltern, const QString& text, bool ersetzbar) = 0;
 };
 
 // The real dialogs.
@@ -46,11 +62,16 @@ class QtDialoge : public Dialoge {
     void druckvorschau(QWidget* eltern, QPrinter& drucker,
                        const std::function<void(QPrinter*)>& malen) override;
     bool drucken(QWidget* eltern, QPrinter& drucker) override;
+    std::optional<QList<int>> zuordnen(QWidget* eltern, const Zuordnungsfrage& frage) override;
+    bool ergebnisbericht(QWidget* eltern, const QString& text, bool ersetzbar) override;
 };
 
 // The game file to open (also to merge tips from, or to read coach periods from), as an absolute
 // path; empty when the user cancelled.
 QString waehleSpieldatei(Dialoge& dialoge, QWidget* eltern);
+// A fixture list or result file (football.json, CSV) to read, as an absolute path; empty when
+// cancelled.
+QString waehleQuelldatei(Dialoge& dialoge, QWidget* eltern, const QString& titel);
 // Where to save the game, `vorschlag` proposed, as an absolute path; empty when cancelled.
 QString waehleSpeicherort(Dialoge& dialoge, QWidget* eltern, const QString& vorschlag);
 

@@ -3,6 +3,7 @@
 #include <QSize>
 
 class QMainWindow;
+class QScrollArea;
 class QWidget;
 
 namespace kalimbo::ui {
@@ -11,5 +12,10 @@ namespace kalimbo::ui {
 // `fenster`'s central widget, and sizes the window to show all of it — or, on a smaller screen,
 // as much as the screen's free area allows, the rest reached by scrolling.
 void setzeRollbarenInhalt(QMainWindow* fenster, QWidget* inhalt, QSize entwurf);
+
+// A scroll area of `eltern` around `inhalt` for a dialog: as large as `inhalt` wants, up to nine
+// tenths of the width and three quarters of the height of the screen's free area, the rest reached
+// by scrolling. Tab passes over the area itself.
+QScrollArea* rollflaeche(QWidget* eltern, QWidget* inhalt);
 
 }  // namespace kalimbo::ui

@@ -8,6 +8,7 @@
 
 #include "scoring/anzeige.h"
 #include "scoring/auswahl.h"
+#include "quellen/spielplan.h"
 #include "state/fehler.h"
 #include "state/spieldatei.h"
 #include "state/tippimport.h"
@@ -108,6 +109,17 @@ void Dokument::menOeffnen_Click() {
     if (const QString pfad = waehleSpieldatei(m_dialoge, m_fenster); !pfad.isEmpty()) oeffne(bytesVon(pfad));
 }
 
+void Dokument::menNeuAusSpielplan_Click() {
+    if (!darfErsetzen()) return;
+    const QString pfad = waehleQuelldatei(m_dialoge, m_fenster, QStringLiteral("Wählen Sie den Spielplan!"));
+    if (pfad.isEmpty()) return;
+    const Quelle quelle = ladeQuelle(bytesVon(pfad));
+    const Dateiinhalt inhalt = neuesSpiel(quelle, quelle.liga);
+    aendere([&](Spielstand& s) { oeffneWieGezeigt(s, inhalt); }, {.ersetzt = true, .daten = true});
+    setzeDatei({});
+    emit spielGeladen();
+}
+
 void Dokument::menRecent_Click(int eintrag) {
     if (!darfErsetzen()) return;
     const ZuletztListe::Eintrag datei = m_zuletzt.eintraege[static_cast<std::size_t>(eintrag)];
@@ -159,8 +171,8 @@ void Dokument::setzeDatei(const std::string& pfad) {
     m_spiel.Dateipfad = pfad;
     m_spiel.Dateititel = std::filesystem::path(pfad).filename().string();
     const QString titel = titelVon(pfad);
-    m_fenster->setWindowTitle(titel.isEmpty() ? QStringLiteral("Kalimbo[*]")
-                                              : titel + QStringLiteral("[*] - Kalimbo"));
+    m_fenster->setWindowTitle((titel.isEmpty() ? QStringLiteral("Neues Tippspiel") : titel) +
+                              QStringLiteral("[*] - Kalimbo"));
 }
 
 void Dokument::merke(const QString& pfad, const QString& titel) {

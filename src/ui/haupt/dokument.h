@@ -46,6 +46,8 @@ class Dokument : public QObject {
     // dialog has answered. Asks nothing.
     void oeffne(const std::string& pfad);
     void menOeffnen_Click();
+    // A new game from a fixture list (neuesSpiel), unsaved: "Speichern" asks for its name.
+    void menNeuAusSpielplan_Click();
     void menRecent_Click(int eintrag);
     // Results and tips of another game file fill those still 0:0; every other field becomes the
     // other file's. The game's file stays the same.

@@ -34,11 +34,14 @@ Hauptmenue baueHauptmenue(QMenuBar* leiste) {
     Hauptmenue h{};
     QMenu* datei = menue(leiste, "menDatei", QStringLiteral("&Datei"));
     datei->setToolTipsVisible(true);  // the recent files show their full path
+    h.menNeuAusSpielplan =
+        eintrag(datei, "menNeuAusSpielplan", QStringLiteral("Neu aus Spielplan…"), QKeySequence::New);
     h.menOeffnen = eintrag(datei, "menOeffnen", QStringLiteral("Öffnen"), QKeySequence::Open);
     h.menSpeichern = eintrag(datei, "menSpeichern", QStringLiteral("Speichern"), QKeySequence::Save);
     QMenu* importieren = menue(datei, "menImportieren", QStringLiteral("Importieren"));
     h.menTippdatei = eintrag(importieren, "menTippdatei", QStringLiteral("Tippdatei"));
     h.menImpTrainer = eintrag(importieren, "menImpTrainer", QStringLiteral("Trainerwechsel-Daten"));
+    h.menImpErgebnisse = eintrag(importieren, "menImpErgebnisse", QStringLiteral("Ergebnisse…"));
     QMenu* exportieren = menue(datei, "menExportieren", QStringLiteral("Exportieren"));
     h.menHTML = eintrag(exportieren, "menHTML", QStringLiteral("HTML-Datei"));
     h.menHTML->setEnabled(false);  // there is no HTML export; the item is kept for familiarity

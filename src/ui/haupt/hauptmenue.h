@@ -14,8 +14,8 @@ namespace kalimbo::ui {
 // The main window's menu tree. Every item carries its name as object name ("menOeffnen",
 // "menRecent_1", "menSptgLetzten_6", ...), so tests and handlers can find it.
 struct Hauptmenue {
-    QAction *menOeffnen, *menSpeichern, *menTippdatei, *menImpTrainer, *menHTML, *menBericht, *menDrucken,
-        *menBeenden;
+    QAction *menNeuAusSpielplan, *menOeffnen, *menSpeichern, *menTippdatei, *menImpTrainer, *menImpErgebnisse,
+        *menHTML, *menBericht, *menDrucken, *menBeenden;
     std::array<QAction*, 3> menRecent;
     QAction *menSptgAlle, *menSptgKeinen, *menSptgHinrunde, *menSptgRueckrunde, *menSptgAlleAbsolv,
         *menSptgAlleAbsolvRueck;
