@@ -75,6 +75,7 @@ Hauptfenster::Hauptfenster(Wiederherstellen antwort) {
     QSettings(QStringLiteral("zorb 5.0"), QStringLiteral("Kalimbo")).clear();
     dialoge.jaNein << antwort.antwort;
     fenster = std::make_unique<frmVela_Haupt>(dialoge);
+    fenster->starte();
     dialoge.jaNein.clear();
 }
 
@@ -116,6 +117,7 @@ void Hauptfenster::oeffneSpiel(const Dateiinhalt& inhalt) {
 void Hauptfenster::neuStarten() {
     fenster.reset();  // the old run ends before the new one starts
     fenster = std::make_unique<frmVela_Haupt>(dialoge);
+    fenster->starte();
 }
 
 QStringList Hauptfenster::meldungen() {

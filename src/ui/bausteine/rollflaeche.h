@@ -12,4 +12,8 @@ namespace kalimbo::ui {
 // as much as the screen's free area allows, the rest reached by scrolling.
 void setzeRollbarenInhalt(QMainWindow* fenster, QWidget* inhalt, QSize entwurf);
 
+// The same for a window that is no QMainWindow: returns the content, of the designed size
+// `entwurf`, to build the window's controls on. The window is never larger than its content.
+QWidget* rollbarerInhalt(QWidget* fenster, QSize entwurf);
+
 }  // namespace kalimbo::ui
