@@ -30,7 +30,7 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setApplicationName(QStringLiteral("Kalimbo"));
-    kalimbo::ui::ladeQtUebersetzung(app, QLocale::system());
+    kalimbo::ui::ladeQtUebersetzung(app);
     kalimbo::ui::QtDialoge dialoge;
     kalimbo::ui::frmVela_Haupt fenster(dialoge, aufruf.spiel);
     fenster.zeigeBeimStart();

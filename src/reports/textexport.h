@@ -8,7 +8,7 @@ namespace kalimbo {
 
 // The content of an exported sheet in Windows-1252: the box text `text` (UTF-8, as it stands, CR LF
 // included), CR LF, the separator line "  - " with its trailing blank, CR LF, then "  " + `fussnote`
-// + " [" + `datum` + ", " + `zeit` + "]" + CR LF. Date and time come in the user's short forms.
+// + " [" + `datum` + ", " + `zeit` + "]" + CR LF. Date and time come as "24.11.2026" and "01:01".
 // Throws Dateifehler naming the first character the code page cannot hold.
 std::string berichtsdatei(std::string_view text, std::string_view fussnote, std::string_view datum,
                           std::string_view zeit);

@@ -17,6 +17,8 @@
 #include "ui/bausteine/druckseite.h"
 #include "ui/bausteine/elemente.h"
 #include "ui/bausteine/fehlergrenze.h"
+#include "ui/bausteine/nebenfenster.h"
+#include "ui/bausteine/rollflaeche.h"
 #include "ui/bausteine/twips.h"
 
 namespace kalimbo::ui {
@@ -37,15 +39,14 @@ QString titelVon(const Spieltagsbogen& b) {
 }  // namespace
 
 frmDrucken::frmDrucken(QWidget* eltern, Dialoge& dialoge) : QWidget(eltern), m_dialoge(dialoge) {
-    setWindowFlag(Qt::Window);
-    setObjectName(QStringLiteral("frmDrucken"));
-    setWindowTitle(QStringLiteral("Drucken"));
-    auto* beschriftung = element<QLabel>(this, QStringLiteral("lblSpieltag"), rechteck(240, 270, 1140, 300));
+    richteNebenfensterEin(this, QStringLiteral("frmDrucken"), QStringLiteral("Drucken"));
+    QWidget* mitte = rollbarerInhalt(this, {px(8280), px(2580)});
+    auto* beschriftung = element<QLabel>(mitte, QStringLiteral("lblSpieltag"), rechteck(240, 270, 1140, 300));
     beschriftung->setText(QStringLiteral("Spieltag:"));
-    cmbSpieltag = element<QComboBox>(this, QStringLiteral("cmbSpieltag"), rechteck(1380, 225, 1800, 390));
+    cmbSpieltag = element<QComboBox>(mitte, QStringLiteral("cmbSpieltag"), rechteck(1380, 225, 1800, 390));
     beschriftung->setBuddy(cmbSpieltag);
 
-    auto* fraArt = element<QGroupBox>(this, QStringLiteral("fraArt"), rechteck(240, 780, 5280, 1560));
+    auto* fraArt = element<QGroupBox>(mitte, QStringLiteral("fraArt"), rechteck(240, 780, 5280, 1560));
     fraArt->setTitle(QStringLiteral("Art des Ausdrucks"));
     for (std::size_t i = 0; i < Arten.size(); ++i) {
         optArt[i] = element<QRadioButton>(fraArt, indexName("optArt", static_cast<int>(i)),
@@ -68,13 +69,12 @@ frmDrucken::frmDrucken(QWidget* eltern, Dialoge& dialoge) : QWidget(eltern), m_d
     }};
     for (std::size_t i = 0; i < knoepfe.size(); ++i) {
         const Knopf& k = knoepfe[i];
-        this->*k.feld = element<QPushButton>(this, QString::fromUtf8(k.name),
+        this->*k.feld = element<QPushButton>(mitte, QString::fromUtf8(k.name),
                                              rechteck(5760, 240 + static_cast<int>(i) * 525, 2280, 420));
         (this->*k.feld)->setText(QString::fromUtf8(k.beschriftung));
         connect(this->*k.feld, &QPushButton::clicked, this,
                 sicher(this, m_dialoge, [this, h = k.handler] { (this->*h)(); }));
     }
-    setFixedSize(px(8280), px(2580));
 }
 
 void frmDrucken::zeige(const Spielstand& spiel) {

@@ -16,6 +16,7 @@
 #include "ui/bausteine/farben.h"
 #include "ui/bausteine/fehlergrenze.h"
 #include "ui/bausteine/klicklabel.h"
+#include "ui/bausteine/nebenfenster.h"
 #include "ui/bausteine/rollflaeche.h"
 #include "ui/bausteine/twips.h"
 #include "ui/bausteine/zeichenflaeche.h"
@@ -31,7 +32,7 @@ const QString Speichertitel = QStringLiteral("Geben Sie den Namen der Datei zum 
 constexpr int BildLinks = 120, BildOben = 615;
 constexpr int SchalterBreite = 1800;
 constexpr std::array<int, 2> SchalterLinks{120, 1980};
-constexpr int LegendeLinks = 13320, LegendeOben = 855;  // beside the chart
+constexpr int LegendeLinks = BildLinks + 480, LegendeOben = BildOben + 300;  // in the chart's empty top left
 constexpr int Zeilenabstand = 240, Zeilenhoehe = 225, Umschalter = 195, Griff = 180;
 constexpr int LegendeBreite = 2280 + Umschalter, LegendeHoehe = 8 * Zeilenabstand + Zeilenhoehe;
 
@@ -44,9 +45,8 @@ void setzeTextfarbe(QLabel* l, const QColor& farbe) {
 }  // namespace
 
 frmGrafik::frmGrafik(QWidget* eltern, Dialoge& dialoge) : QMainWindow(eltern), m_dialoge(dialoge) {
-    setWindowFlag(Qt::Window);
-    setObjectName(QStringLiteral("frmGrafik"));
-    setWindowTitle(QStringLiteral("Grafische Anzeige der Tippergebnisse"));
+    richteNebenfensterEin(this, QStringLiteral("frmGrafik"),
+                          QStringLiteral("Grafische Anzeige der Tippergebnisse"));
     auto* mitte = new QWidget(this);
     QFont klein = font();  // the layout is designed for a small font
     klein.setPointSizeF(7.5);
@@ -72,14 +72,18 @@ frmGrafik::frmGrafik(QWidget* eltern, Dialoge& dialoge) : QMainWindow(eltern), m
     lblTest->hide();
     erzeugeLegende(mitte);
     erzeugeMenue();
-    setzeRollbarenInhalt(this, mitte,
-                         {px(LegendeLinks + LegendeBreite + 165), px(BildOben + grafik::GrafikHoehe + 120)});
+    setzeRollbarenInhalt(
+        this, mitte, {px(BildLinks + grafik::GrafikBreite + 120), px(BildOben + grafik::GrafikHoehe + 120)});
 }
 
 void frmGrafik::erzeugeLegende(QWidget* mitte) {
+    // Under the legend's texts, so that the chart does not show through when it is dragged there.
+    fraLegende = element<QFrame>(mitte, QStringLiteral("fraLegende"), {});
+    fraLegende->setFrameStyle(QFrame::Box | QFrame::Plain);
+    fraLegende->setAutoFillBackground(true);
     for (int p = 0; p < MaxSpieler; ++p) {
         lblSpieler[p] = element<QLabel>(mitte, indexName("lblSpieler", p), {});
-        lblSpieler[p]->setIndent(px(45));  // clear of the handle's edge
+        lblSpieler[p]->setIndent(px(90));  // clear of the handle's edge
         lblGesamtPunkte[p] = element<QLabel>(mitte, indexName("lblGesamtPunkte", p), {});
         lblGesamtPunkte[p]->setToolTip(QStringLiteral("Gesamtpunkte"));
         lblSptgPunkte[p] = element<QLabel>(mitte, indexName("lblSptgPunkte", p), {});
@@ -266,6 +270,7 @@ void frmGrafik::setzeLegende(QPoint ursprung) {
         return QRect(ursprung.x() + px(dx), ursprung.y() + px(dy), px(breite), px(hoehe));
     };
     lblAnAus->setGeometry(QRect(ursprung - QPoint(px(180), px(60)), QSize(px(Griff), px(Griff))));
+    fraLegende->setGeometry(ort(-240, -120, LegendeBreite + 300, LegendeHoehe + 180));
     for (int p = 0; p < MaxSpieler; ++p) {
         const int y = Zeilenabstand * p;
         lblSpieler[p]->setGeometry(ort(0, y, 1080, Zeilenhoehe));

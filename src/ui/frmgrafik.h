@@ -19,9 +19,10 @@ class Dialoge;
 class KlickLabel;
 class Zeichenflaeche;
 
-// The graph window: the players' running totals or matchday points as a chart, a legend that can
-// be dragged by its "+" handle with a toggle per player for the marks and for the printed totals,
-// and the "Bild" menu that saves the chart as a bitmap.
+// The graph window: the players' running totals or matchday points as a chart, a legend on an
+// opaque background in the chart's top left that can be dragged by its "+" handle, with a toggle per
+// player for the marks and for the printed totals, and the "Bild" menu that saves the chart as a
+// bitmap.
 class frmGrafik : public QMainWindow {
     Q_OBJECT
   public:
@@ -49,6 +50,7 @@ class frmGrafik : public QMainWindow {
     std::array<KlickLabel*, 2> lblSchalt{};
     QLabel* lblAnAus = nullptr;
     QFrame* shpRahmen = nullptr;
+    QFrame* fraLegende = nullptr;  // the legend's opaque background
     std::array<QLabel*, MaxSpieler> lblSpieler{}, lblGesamtPunkte{}, lblSptgPunkte{};
     std::array<KlickLabel*, MaxSpieler> lblAnsicht{}, lblPunkteZeigen{};
     std::array<QFrame*, 2> linHori{};

@@ -1,5 +1,6 @@
 #include "frmhaeufigkeiten.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <algorithm>
@@ -8,6 +9,8 @@
 #include "ui/bausteine/farben.h"
 #include "ui/bausteine/fehlergrenze.h"
 #include "ui/bausteine/klicklabel.h"
+#include "ui/bausteine/nebenfenster.h"
+#include "ui/bausteine/rollflaeche.h"
 #include "ui/bausteine/twips.h"
 
 namespace kalimbo::ui {
@@ -23,7 +26,7 @@ constexpr int UebersichtZeile = 300;
 constexpr int Rechts = 6720;  // left edge of the chosen score's part
 constexpr int BalkenLinks = Rechts + 2280, BalkenMax = 3600;
 constexpr int BalkenZeile = 330;
-constexpr int ListeOben = 480 + 10 * BalkenZeile + 120;
+constexpr int ListeUnten = UebersichtOben + 10 * UebersichtZeile;
 
 constexpr auto Links = Qt::AlignLeft | Qt::AlignVCenter;
 constexpr auto RechtsBuendig = Qt::AlignRight | Qt::AlignVCenter;
@@ -42,34 +45,56 @@ QLabel* ueberschrift(QWidget* eltern, const QRect& ort, const QString& text) {
     return l;
 }
 
+// The score class an arrow key moves to from `klasse` (at an edge: the same one); "andere" lies
+// under 9:1. -1 for any other key.
+int nachbar(int klasse, int taste) {
+    const int heim = klasse / 10, gast = klasse % 10;
+    const bool andere = klasse == KlasseAndere;
+    switch (taste) {
+        case Qt::Key_Left:
+            return andere ? klasse : heim * 10 + std::max(gast - 1, 0);
+        case Qt::Key_Right:
+            return andere ? klasse : heim * 10 + std::min(gast + 1, MaxToreImRaster);
+        case Qt::Key_Up:
+            return andere ? MaxToreImRaster * 10 + 1 : std::max(heim - 1, 0) * 10 + gast;
+        case Qt::Key_Down:
+            return andere || heim == MaxToreImRaster ? KlasseAndere : (heim + 1) * 10 + gast;
+        default:
+            return -1;
+    }
+}
+
 }  // namespace
 
 frmHaeufigkeiten::frmHaeufigkeiten(QWidget* eltern, Dialoge& dialoge) : QWidget(eltern), m_dialoge(dialoge) {
-    setWindowFlag(Qt::Window);
-    setObjectName(QStringLiteral("frmHäufigkeiten"));
-    setWindowTitle(QStringLiteral("Häufigkeiten"));
-    erzeugeRaster();
-    erzeugeAuswahl();
-    erzeugeUebersicht();
-    setFixedSize(px(12840), px(UebersichtOben + 10 * UebersichtZeile + 240));
+    richteNebenfensterEin(this, QStringLiteral("frmHäufigkeiten"), QStringLiteral("Häufigkeiten"));
+    QWidget* mitte = m_inhalt =
+        rollbarerInhalt(this, {px(12840), px(UebersichtOben + 10 * UebersichtZeile + 240)});
+    // The grid takes the focus (a click on a cell gives it too) and walks with the arrow keys.
+    mitte->setObjectName(QStringLiteral("fraRaster"));
+    mitte->setFocusPolicy(Qt::StrongFocus);
+    mitte->installEventFilter(this);
+    erzeugeRaster(mitte);
+    erzeugeAuswahl(mitte);
+    erzeugeUebersicht(mitte);
 }
 
-void frmHaeufigkeiten::erzeugeRaster() {
-    ueberschrift(this, rechteck(240, 120, 6300, 300), QStringLiteral("Ergebnisse (Heimtore ↓, Gasttore →)"));
+void frmHaeufigkeiten::erzeugeRaster(QWidget* mitte) {
+    ueberschrift(mitte, rechteck(240, 120, 6300, 300), QStringLiteral("Ergebnisse (Heimtore ↓, Gasttore →)"));
     for (int tore = 0; tore <= MaxToreImRaster; ++tore) {
-        beschriftung(this, QString(), rechteck(RasterLinks + tore * ZellenBreite, 480, ZellenBreite, 300),
+        beschriftung(mitte, QString(), rechteck(RasterLinks + tore * ZellenBreite, 480, ZellenBreite, 300),
                      QString::number(tore), Qt::AlignCenter);
-        beschriftung(this, QString(), rechteck(240, RasterOben + tore * ZellenHoehe, 480, ZellenHoehe),
+        beschriftung(mitte, QString(), rechteck(240, RasterOben + tore * ZellenHoehe, 480, ZellenHoehe),
                      QString::number(tore), RechtsBuendig);
     }
-    beschriftung(this, QString(), rechteck(240, AndereOben, RasterLinks + ZellenBreite - 300, ZellenHoehe),
+    beschriftung(mitte, QString(), rechteck(240, AndereOben, RasterLinks + ZellenBreite - 300, ZellenHoehe),
                  QStringLiteral("andere"), RechtsBuendig);
     for (int klasse = 0; klasse < AnzErgebnisklassen; ++klasse) {
         const QRect ort = klasse == KlasseAndere
                               ? rechteck(RasterLinks + ZellenBreite, AndereOben, ZellenBreite, ZellenHoehe)
                               : rechteck(RasterLinks + klasse % 10 * ZellenBreite,
                                          RasterOben + klasse / 10 * ZellenHoehe, ZellenBreite, ZellenHoehe);
-        auto* zelle = element<KlickLabel>(this, indexName("lblErgebnis", klasse), ort);
+        auto* zelle = element<KlickLabel>(mitte, indexName("lblErgebnis", klasse), ort);
         zelle->setAlignment(Qt::AlignCenter);
         zelle->setFrameStyle(QFrame::Box | QFrame::Plain);
         zelle->setCursor(Qt::PointingHandCursor);
@@ -80,39 +105,38 @@ void frmHaeufigkeiten::erzeugeRaster() {
     }
 }
 
-void frmHaeufigkeiten::erzeugeAuswahl() {
-    lblAuswahl = ueberschrift(this, rechteck(Rechts, 120, 5880, 300), QString());
+void frmHaeufigkeiten::erzeugeAuswahl(QWidget* mitte) {
+    lblAuswahl = ueberschrift(mitte, rechteck(Rechts, 120, 5880, 300), QString());
     lblAuswahl->setObjectName(QStringLiteral("lblAuswahl"));
-    auto zeile = [this](const QString& suffix, int oben, QLabel*& name, QLabel*& anzahl, QLabel*& balken) {
-        name = beschriftung(this, "lblName" + suffix, rechteck(Rechts, oben, 1560, 300), QString(), Links);
-        anzahl = beschriftung(this, "lblAnzahl" + suffix, rechteck(Rechts + 1620, oben, 540, 300), QString(),
+    auto zeile = [mitte](const QString& suffix, int oben, QLabel*& name, QLabel*& anzahl, QLabel*& balken) {
+        name = beschriftung(mitte, "lblName" + suffix, rechteck(Rechts, oben, 1560, 300), QString(), Links);
+        anzahl = beschriftung(mitte, "lblAnzahl" + suffix, rechteck(Rechts + 1620, oben, 540, 300), QString(),
                               RechtsBuendig);
-        balken = element<QLabel>(this, "lblBalken" + suffix, rechteck(BalkenLinks, oben + 45, 0, 210));
+        balken = element<QLabel>(mitte, "lblBalken" + suffix, rechteck(BalkenLinks, oben + 45, 0, 210));
     };
     zeile(QString(), 480, lblName, lblAnzahl, lblBalken);
     lblName->setText(QStringLiteral("Ergebnis"));
     setzeFarben(lblBalken, qfarbe(schattierung(1, 1)), Qt::white);
     for (int p = 0; p < MaxSpieler; ++p)
         zeile(QStringLiteral("_%1").arg(p), 480, lblSpielerName[p], lblSpielerAnzahl[p], lblSpielerBalken[p]);
-    txtSpiele = element<QPlainTextEdit>(
-        this, QStringLiteral("txtSpiele"),
-        rechteck(Rechts, ListeOben, 5880, UebersichtOben + 10 * UebersichtZeile - ListeOben));
+    txtSpiele = element<QPlainTextEdit>(mitte, QStringLiteral("txtSpiele"),
+                                        rechteck(Rechts, 480, 5880, ListeUnten - 480));
     txtSpiele->setReadOnly(true);
     txtSpiele->setTabStopDistance(px(1350));
 }
 
-void frmHaeufigkeiten::erzeugeUebersicht() {
-    ueberschrift(this, rechteck(240, UebersichtOben, 1800, 300), QStringLiteral("Spieler"));
-    ueberschrift(this, rechteck(2100, UebersichtOben, 2100, 300), QStringLiteral("Häufigster Tipp"));
-    ueberschrift(this, rechteck(4260, UebersichtOben, 2100, 300), QStringLiteral("Exakt richtig"));
+void frmHaeufigkeiten::erzeugeUebersicht(QWidget* mitte) {
+    ueberschrift(mitte, rechteck(240, UebersichtOben, 1800, 300), QStringLiteral("Spieler"));
+    ueberschrift(mitte, rechteck(2100, UebersichtOben, 2100, 300), QStringLiteral("Häufigster Tipp"));
+    ueberschrift(mitte, rechteck(4260, UebersichtOben, 2100, 300), QStringLiteral("Exakt richtig"));
     for (int p = 0; p < MaxSpieler; ++p) {
         const int oben = UebersichtOben + (p + 1) * UebersichtZeile;
         lblTipper[p] =
-            beschriftung(this, indexName("lblTipper", p), rechteck(240, oben, 1800, 300), {}, Links);
-        lblHaeufigsterTipp[p] =
-            beschriftung(this, indexName("lblHäufigsterTipp", p), rechteck(2100, oben, 2100, 300), {}, Links);
+            beschriftung(mitte, indexName("lblTipper", p), rechteck(240, oben, 1800, 300), {}, Links);
+        lblHaeufigsterTipp[p] = beschriftung(mitte, indexName("lblHäufigsterTipp", p),
+                                             rechteck(2100, oben, 2100, 300), {}, Links);
         lblTreffer[p] =
-            beschriftung(this, indexName("lblTreffer", p), rechteck(4260, oben, 2100, 300), {}, Links);
+            beschriftung(mitte, indexName("lblTreffer", p), rechteck(4260, oben, 2100, 300), {}, Links);
     }
 }
 
@@ -134,6 +158,15 @@ void frmHaeufigkeiten::zeichne(const Spielstand& spiel) {
     zeigeRaster();
     zeigeUebersicht();
     zeigeAuswahl();
+}
+
+bool frmHaeufigkeiten::eventFilter(QObject* objekt, QEvent* ereignis) {
+    if (objekt != m_inhalt || ereignis->type() != QEvent::KeyPress || m_klasse < 0)
+        return QWidget::eventFilter(objekt, ereignis);
+    const int klasse = nachbar(m_klasse, static_cast<QKeyEvent*>(ereignis)->key());
+    if (klasse < 0) return false;
+    fangeFehler(this, m_dialoge, [&] { lblErgebnis_Click(klasse); });
+    return true;
 }
 
 void frmHaeufigkeiten::lblErgebnis_Click(int klasse) {
@@ -208,6 +241,8 @@ void frmHaeufigkeiten::zeigeAuswahl() {
         setzeFarben(lblSpielerBalken[p], qfarbe(m_spiel->getSpielerFarbe(p)), Qt::black);
         balken(lblSpielerAnzahl[p], lblSpielerBalken[p], m_haeufigkeiten.anzahlTipps(p, m_klasse));
     }
+    const int listeOben = 480 + (zeile + 1) * BalkenZeile + 120;  // right under the last bar
+    txtSpiele->setGeometry(rechteck(Rechts, listeOben, 5880, ListeUnten - listeOben));
     txtSpiele->setPlainText(text(spielliste(*m_spiel, m_haeufigkeiten, m_klasse)));
 }
 

@@ -30,11 +30,15 @@ class frmHaeufigkeiten : public QWidget {
     // The game changed: counted and drawn afresh, the chosen score kept.
     void folge(const Spielstand& spiel, const Aenderung& art);
 
+  protected:
+    bool eventFilter(QObject* objekt, QEvent* ereignis) override;
+
   private:
     Dialoge& m_dialoge;
     const Spielstand* m_spiel = nullptr;
     Haeufigkeiten m_haeufigkeiten;
-    int m_klasse = -1;  // the chosen score class; -1 until the first show
+    int m_klasse = -1;            // the chosen score class; -1 until the first show
+    QWidget* m_inhalt = nullptr;  // the window's content, which has the focus for the arrow keys
 
     std::array<KlickLabel*, AnzErgebnisklassen> lblErgebnis{};  // 0..99 the grid, 100 "andere"
     QLabel* lblAuswahl = nullptr;
@@ -43,9 +47,9 @@ class frmHaeufigkeiten : public QWidget {
     std::array<QLabel*, MaxSpieler> lblTipper{}, lblHaeufigsterTipp{}, lblTreffer{};
     QPlainTextEdit* txtSpiele = nullptr;
 
-    void erzeugeRaster();
-    void erzeugeAuswahl();
-    void erzeugeUebersicht();
+    void erzeugeRaster(QWidget* mitte);
+    void erzeugeAuswahl(QWidget* mitte);
+    void erzeugeUebersicht(QWidget* mitte);
     void zeichne(const Spielstand& spiel);
     void lblErgebnis_Click(int klasse);
     void zeigeRaster();

@@ -10,6 +10,8 @@
 #include "ui/bausteine/farben.h"
 #include "ui/bausteine/fehlergrenze.h"
 #include "ui/bausteine/klicklabel.h"
+#include "ui/bausteine/nebenfenster.h"
+#include "ui/bausteine/rollflaeche.h"
 #include "ui/bausteine/twips.h"
 
 namespace kalimbo::ui {
@@ -47,41 +49,44 @@ QFrame* flaeche(QWidget* eltern, const QString& name, const QRect& ort) {
 }  // namespace
 
 frmRegel::frmRegel(QWidget* eltern, Dialoge& dialoge) : QWidget(eltern), m_dialoge(dialoge) {
-    setWindowFlag(Qt::Window);
-    setObjectName(QStringLiteral("frmRegel"));
-    setWindowTitle(QStringLiteral("Eigene Regel bezüglich der Auswertung erstellen"));
-    beschriftung(this, QStringLiteral("neue Regel"), rechteck(240, 120, 3000, 300), true);
-    beschriftung(this, QStringLiteral("hier die Punktzahl eintragen"),
+    richteNebenfensterEin(this, QStringLiteral("frmRegel"),
+                          QStringLiteral("Eigene Regel bezüglich der Auswertung erstellen"));
+    QFont klein = font();  // the layout is designed for a small font: each caption's first line fits
+    klein.setPointSizeF(7.5);
+    setFont(klein);
+    QWidget* mitte = rollbarerInhalt(this, {px(Festspalte + 2760), px(ErsteZeile + 3 * Zeilenhoehe + 600)});
+    beschriftung(mitte, QStringLiteral("neue Regel"), rechteck(240, 120, 3000, 300), true);
+    beschriftung(mitte, QStringLiteral("hier die Punktzahl eintragen"),
                  rechteck(Punktespalte - 240, 480, 1080, 660));
     beschriftung(
-        this,
+        mitte,
         QStringLiteral("hier die Hintergrundfarbe wählen [benötigt, um in der Übersicht richtige Tipps "
                        "mit der entsprechenden Farbe zu hinterlegen]"),
         rechteck(Farbspalte, 120, 3120, 1020));
-    beschriftung(this, QStringLiteral("zur Wahl stehende Farben"), rechteck(Wahlspalte, 600, 2160, 480));
+    beschriftung(mitte, QStringLiteral("zur Wahl stehende Farben"), rechteck(Wahlspalte, 600, 2160, 480));
     const char* const festeKoepfe[] = {"3-Pkt- Regel", "2-Pkt -Regel", "3-2-1- Regel"};
     for (int r = 0; r < 3; ++r)
-        beschriftung(this, QString::fromUtf8(festeKoepfe[r]), rechteck(Festspalte + r * 840, 600, 780, 480));
+        beschriftung(mitte, QString::fromUtf8(festeKoepfe[r]), rechteck(Festspalte + r * 840, 600, 780, 480));
 
     const QString arten[] = {
-        QStringLiteral("Punkte bei komplett richtigem Tipp ( Ergebnis 3:0, Tipp 3:0)"),
+        QStringLiteral("Punkte bei komplett richtigem Tipp\n( Ergebnis 3:0, Tipp 3:0)"),
         QStringLiteral("Punkte bei richtiger Vorhersage der Höhe des Sieges\n(Ergebnis 3:0, Tipp 4:1)"),
-        QStringLiteral("Punkte bei richtig getippter Tendenz (Ergebnis 3:0, Tipp 2:1)")};
+        QStringLiteral("Punkte bei richtig getippter Tendenz\n(Ergebnis 3:0, Tipp 2:1)")};
     // Which fixed swatch stands in which rule's column: 0..2 fully correct, 3 the margin of 3-2-1.
     constexpr int festeZeile[9] = {0, 0, 0, 1, 1, 1, 2, 2, 2};
     constexpr int festeSpalte[9] = {0, 1, 2, 2, 0, 1, 0, 1, 2};
     for (int k = 0; k < 3; ++k) {
         const int oben = ErsteZeile + k * Zeilenhoehe;
-        beschriftung(this, arten[k], rechteck(240, oben - 120, 4080, 720));
+        beschriftung(mitte, arten[k], rechteck(240, oben - 120, 4080, 720));
         txtNeuModus[k] =
-            element<QLineEdit>(this, indexName("txtNeuModus", k), rechteck(Punktespalte, oben, 540, 330));
+            element<QLineEdit>(mitte, indexName("txtNeuModus", k), rechteck(Punktespalte, oben, 540, 330));
         txtNeuModus[k]->setAlignment(Qt::AlignCenter);
         markiereBeimBetretenAlles(txtNeuModus[k]);
-        lblFarbWahl[k] = flaeche(this, indexName("lblFarbWahl", k), rechteck(Farbspalte, oben, 1200, 330));
+        lblFarbWahl[k] = flaeche(mitte, indexName("lblFarbWahl", k), rechteck(Farbspalte, oben, 1200, 330));
         lblFarbWahl[k]->setToolTip(QStringLiteral("aktuell gewählte Farbe"));
         for (int j = 0; j < 3; ++j) {
             const int i = 3 * k + j;
-            auto* alt = element<KlickLabel>(this, indexName("lblFarbAlt", i),
+            auto* alt = element<KlickLabel>(mitte, indexName("lblFarbAlt", i),
                                             rechteck(Wahlspalte + j * 720, oben, 600, 330));
             alt->setFrameStyle(QFrame::Box | QFrame::Plain);
             alt->setCursor(Qt::PointingHandCursor);
@@ -89,20 +94,24 @@ frmRegel::frmRegel(QWidget* eltern, Dialoge& dialoge) : QWidget(eltern), m_dialo
             lblFarbAlt[i] = alt;
         }
     }
-    beschriftung(this, QStringLiteral("aktuell gewählte Farbe"),
+    beschriftung(mitte, QStringLiteral("aktuell gewählte Farbe"),
                  rechteck(Farbspalte, ErsteZeile + 3 * Zeilenhoehe - 360, 2400, 300));
     for (int i = 0; i < 9; ++i) {
         lblFarbeFest[i] = flaeche(
-            this, indexName("lblFarbeFest", i),
+            mitte, indexName("lblFarbeFest", i),
             rechteck(Festspalte + festeSpalte[i] * 840, ErsteZeile + festeZeile[i] * Zeilenhoehe, 600, 330));
         setzeFlaeche(lblFarbeFest[i], Angebot[i == 3 ? 1 : (i < 3 ? 0 : 2)]);
     }
-    auto* ok = element<QPushButton>(this, QStringLiteral("cmdOK"),
-                                    rechteck(Festspalte + 600, ErsteZeile + 3 * Zeilenhoehe, 1320, 375));
+    const int knopfOben = ErsteZeile + 3 * Zeilenhoehe;
+    auto* ok = element<QPushButton>(mitte, QStringLiteral("cmdOK"),
+                                    rechteck(Festspalte - 840, knopfOben, 1320, 375));
     ok->setText(QStringLiteral("OK"));
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, sicher(this, m_dialoge, [this] { cmdOK_Click(); }));
-    setFixedSize(px(Festspalte + 2760), px(ErsteZeile + 3 * Zeilenhoehe + 600));
+    auto* abbrechen = element<QPushButton>(mitte, QStringLiteral("cmdAbbrechen"),
+                                           rechteck(Festspalte + 600, knopfOben, 1320, 375));
+    abbrechen->setText(QStringLiteral("Abbrechen"));
+    connect(abbrechen, &QPushButton::clicked, this, &QWidget::close);
 }
 
 void frmRegel::zeige(const Spielstand& spiel) {
@@ -136,7 +145,12 @@ void frmRegel::cmdOK_Click() {
     for (std::size_t k = 0; k < regel.punkte.size(); ++k)
         regel.punkte[k] = zahlAusText(txtNeuModus[k]->text().toStdString());
     emit bestaetigt(regel);
-    close();
+    hide();
+}
+
+void frmRegel::closeEvent(QCloseEvent* ereignis) {
+    if (isVisible()) emit abgebrochen();
+    QWidget::closeEvent(ereignis);
 }
 
 }  // namespace kalimbo::ui

@@ -17,7 +17,8 @@ class KlickLabel;
 // The own rule ("frmRegel"): points and background colour for each hit kind (0 fully correct,
 // 1 correct margin, 2 correct tendency), starting from the rule in force. "OK" hands the three
 // points and colours to the main window, which writes them with setModus and setFarbeMod; nothing
-// is evaluated until the user asks for it.
+// is evaluated until the user asks for it. "Abbrechen", Escape and the frame's close button close
+// it without them, and the main window goes back to the rule in force before it opened.
 class frmRegel : public QWidget {
     Q_OBJECT
   public:
@@ -35,6 +36,11 @@ class frmRegel : public QWidget {
   signals:
     // "OK": the three points and colours, to be written with setModus and setFarbeMod.
     void bestaetigt(const EigeneRegel& regel);
+    // Closed without "OK".
+    void abgebrochen();
+
+  protected:
+    void closeEvent(QCloseEvent* ereignis) override;
 
   private:
     Dialoge& m_dialoge;

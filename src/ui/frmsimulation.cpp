@@ -17,6 +17,8 @@
 #include "ui/bausteine/fehlergrenze.h"
 #include "ui/bausteine/klicklabel.h"
 #include "ui/bausteine/ligatabelle.h"
+#include "ui/bausteine/nebenfenster.h"
+#include "ui/bausteine/rollflaeche.h"
 #include "ui/bausteine/saisonform.h"
 #include "ui/bausteine/twips.h"
 
@@ -72,17 +74,15 @@ QFrame* linie(QWidget* eltern, const QString& name, int oben, int breite) {
 }  // namespace
 
 frmSimulation::frmSimulation(QWidget* eltern, Dialoge& dialoge) : QWidget(eltern), m_dialoge(dialoge) {
-    setWindowFlag(Qt::Window);
-    setObjectName(QStringLiteral("frmSimulation"));
-    setWindowTitle(QStringLiteral("Simulation"));
-    erzeugeVorhersage();
-    erzeugeTatsaechliche();
-    erzeugeBericht();
-    setFixedSize(px(FensterBreite), px(FensterHoehe));
+    richteNebenfensterEin(this, QStringLiteral("frmSimulation"), QStringLiteral("Simulation"));
+    QWidget* mitte = rollbarerInhalt(this, {px(FensterBreite), px(FensterHoehe)});
+    erzeugeVorhersage(mitte);
+    erzeugeTatsaechliche(mitte);
+    erzeugeBericht(mitte);
 }
 
-void frmSimulation::erzeugeVorhersage() {
-    fraVorhersage = rahmen(this, QStringLiteral("Tabelle laut Vorhersage des gewählten Tippers"),
+void frmSimulation::erzeugeVorhersage(QWidget* mitte) {
+    fraVorhersage = rahmen(mitte, QStringLiteral("Tabelle laut Vorhersage des gewählten Tippers"),
                            VorhersageLinks, VorhersageBreite);
     cmbSpielerWahl = element<QComboBox>(fraVorhersage, QStringLiteral("cmbSpielerWahl"),
                                         rechteck(120, KopfOben, 2880, KopfHoehe));
@@ -106,9 +106,9 @@ void frmSimulation::erzeugeVorhersage() {
     linHori[0] = linie(fraVorhersage, indexName("linHori", 0), LinienEntwurf[0], linienBreite);
 }
 
-void frmSimulation::erzeugeTatsaechliche() {
+void frmSimulation::erzeugeTatsaechliche(QWidget* mitte) {
     fraTatsaechlich =
-        rahmen(this, QStringLiteral("Tatsächliche Tabelle"), TatsaechlichLinks, TatsaechlichBreite);
+        rahmen(mitte, QStringLiteral("Tatsächliche Tabelle"), TatsaechlichLinks, TatsaechlichBreite);
     lblLiga = element<QLabel>(fraTatsaechlich, QStringLiteral("lblLiga"),
                               rechteck(120, KopfOben, TatsaechlichBreite - 240, KopfHoehe));
     setzeFett(lblLiga, true);
@@ -121,9 +121,9 @@ void frmSimulation::erzeugeTatsaechliche() {
     linHori[1] = linie(fraTatsaechlich, indexName("linHori", 1), LinienEntwurf[1], linienBreite);
 }
 
-void frmSimulation::erzeugeBericht() {
+void frmSimulation::erzeugeBericht(QWidget* mitte) {
     txtPunkteDiff = element<QPlainTextEdit>(
-        this, QStringLiteral("txtPunkteDiff"),
+        mitte, QStringLiteral("txtPunkteDiff"),
         rechteck(BerichtLinks, Entwurf.berichtOben, BerichtBreite, Entwurf.berichtHoehe));
     txtPunkteDiff->setReadOnly(true);
     txtPunkteDiff->setLineWrapMode(QPlainTextEdit::NoWrap);

@@ -50,9 +50,9 @@ class frmSimulation : public QWidget {
     std::array<QFrame*, 2> linHori{};
     QFrame *Line1 = nullptr, *Line2 = nullptr;
 
-    void erzeugeVorhersage();
-    void erzeugeTatsaechliche();
-    void erzeugeBericht();
+    void erzeugeVorhersage(QWidget* mitte);
+    void erzeugeTatsaechliche(QWidget* mitte);
+    void erzeugeBericht(QWidget* mitte);
     void zeichne(const Spielstand& spiel);
     void fuelleSpielerWahl();
     void fuelleTatsaechlicheTabelle();

@@ -11,6 +11,8 @@
 #include "ui/bausteine/farben.h"
 #include "ui/bausteine/fehlergrenze.h"
 #include "ui/bausteine/klicklabel.h"
+#include "ui/bausteine/nebenfenster.h"
+#include "ui/bausteine/rollflaeche.h"
 #include "ui/bausteine/twips.h"
 
 namespace kalimbo::ui {
@@ -34,12 +36,12 @@ void setzeFlaeche(QWidget* w, Farbe farbe) {
 }  // namespace
 
 frmSpieler::frmSpieler(QWidget* eltern, Dialoge& dialoge) : QWidget(eltern), m_dialoge(dialoge) {
-    setWindowFlag(Qt::Window);
-    setObjectName(QStringLiteral("frmSpieler"));
-    setWindowTitle(QStringLiteral("Spielerdaten ändern"));
+    richteNebenfensterEin(this, QStringLiteral("frmSpieler"), QStringLiteral("Spielerdaten ändern"));
+    const int unten = ErsteZeile + MaxSpieler * Zeilenhoehe + 120;
+    QWidget* mitte = rollbarerInhalt(this, {px(5400), px(unten + 1320)});
     for (const auto& [titel, links] :
          {std::pair{"Name", 240}, std::pair{"Farbe", 3120}, std::pair{"spielt mit", 3840}}) {
-        auto* kopf = element<QLabel>(this, QString(), rechteck(links, 240, 1200, 300));
+        auto* kopf = element<QLabel>(mitte, QString(), rechteck(links, 240, 1200, 300));
         kopf->setText(QString::fromUtf8(titel));
         setzeFett(kopf, true);
     }
@@ -47,35 +49,37 @@ frmSpieler::frmSpieler(QWidget* eltern, Dialoge& dialoge) : QWidget(eltern), m_d
         m_farben[static_cast<std::size_t>(p)] = Palette[static_cast<std::size_t>(p)];
         const int oben = ErsteZeile + p * Zeilenhoehe;
         QLineEdit* name = txtSpieler[p] =
-            element<QLineEdit>(this, indexName("txtSpieler", p), rechteck(240, oben, 2760, 315));
+            element<QLineEdit>(mitte, indexName("txtSpieler", p), rechteck(240, oben, 2760, 315));
         name->setMaxLength(100);
         markiereBeimBetretenAlles(name);
         KlickLabel* farbe = lblSpielerFarbe[p] =
-            element<KlickLabel>(this, indexName("lblSpielerFarbe", p), rechteck(3120, oben, 480, 315));
+            element<KlickLabel>(mitte, indexName("lblSpielerFarbe", p), rechteck(3120, oben, 480, 315));
         farbe->setFrameStyle(QFrame::Box | QFrame::Plain);
         farbe->setCursor(Qt::PointingHandCursor);
         farbe->setToolTip(QStringLiteral("Kästchen klicken, um Farbe zu ändern"));
         connect(farbe, &KlickLabel::geklickt, this, [this, p] { lblSpielerFarbe_Click(p); });
         chkTeilnehmer[p] =
-            element<QCheckBox>(this, indexName("chkTeilnehmer", p), rechteck(3960, oben, 1200, 315));
+            element<QCheckBox>(mitte, indexName("chkTeilnehmer", p), rechteck(3960, oben, 1200, 315));
         chkTeilnehmer[p]->setText(QStringLiteral("spielt mit"));
     }
-    const int unten = ErsteZeile + MaxSpieler * Zeilenhoehe + 120;
-    auto* hinweis = element<QLabel>(this, QStringLiteral("lblHinweis"), rechteck(240, unten, 4920, 300));
+    auto* hinweis = element<QLabel>(mitte, QStringLiteral("lblHinweis"), rechteck(240, unten, 4920, 300));
     hinweis->setText(QStringLiteral("Kästchen klicken, um Farbe zu ändern"));
     for (int i = 0; i < 16; ++i) {
         shpFarbe[i] =
-            element<QFrame>(this, indexName("shpFarbe", i), rechteck(240 + i * 300, unten + 360, 240, 240));
+            element<QFrame>(mitte, indexName("shpFarbe", i), rechteck(240 + i * 300, unten + 360, 240, 240));
         shpFarbe[i]->setFrameStyle(QFrame::Box | QFrame::Plain);
     }
-    shpAuswahl = element<QFrame>(this, QStringLiteral("shpAuswahl"), rechteck(240, unten + 720, 480, 315));
+    shpAuswahl = element<QFrame>(mitte, QStringLiteral("shpAuswahl"), rechteck(240, unten + 720, 480, 315));
     shpAuswahl->setFrameStyle(QFrame::Box | QFrame::Plain);
     shpAuswahl->setToolTip(QStringLiteral("zuletzt gewählte Farbe"));
-    cmdOK = element<QPushButton>(this, QStringLiteral("cmdOK"), rechteck(3840, unten + 720, 1320, 375));
+    cmdOK = element<QPushButton>(mitte, QStringLiteral("cmdOK"), rechteck(2400, unten + 720, 1320, 375));
     cmdOK->setText(QStringLiteral("OK"));
     cmdOK->setDefault(true);
     connect(cmdOK, &QPushButton::clicked, this, sicher(this, m_dialoge, [this] { cmdOK_Click(); }));
-    setFixedSize(px(5400), px(unten + 1320));
+    auto* abbrechen =
+        element<QPushButton>(mitte, QStringLiteral("cmdAbbrechen"), rechteck(3840, unten + 720, 1320, 375));
+    abbrechen->setText(QStringLiteral("Abbrechen"));
+    connect(abbrechen, &QPushButton::clicked, this, &QWidget::close);
 }
 
 void frmSpieler::zeige(const Spielstand& spiel) {
@@ -89,6 +93,7 @@ void frmSpieler::zeige(const Spielstand& spiel) {
         if (spielt) m_farben[s] = spiel.getSpielerFarbe(p);
         setzeFlaeche(lblSpielerFarbe[s], m_farben[s]);
     }
+    m_farbenBeimZeigen = m_farben;
     show();
     raise();
     activateWindow();
@@ -118,6 +123,13 @@ void frmSpieler::cmdOK_Click() {
         m_teilnehmer[p] = chkTeilnehmer[p]->isChecked() ? 1 : 0;
     emit bestaetigt();
     hide();
+}
+
+// Closed without "OK": the colours clicked are dropped too (the names and flags are filled afresh
+// from the game when it opens again).
+void frmSpieler::closeEvent(QCloseEvent* ereignis) {
+    m_farben = m_farbenBeimZeigen;
+    QWidget::closeEvent(ereignis);
 }
 
 std::string frmSpieler::getSpielerName(int spieler) const {

@@ -20,7 +20,8 @@ class KlickLabel;
 // The player settings ("frmSpieler"): name, "spielt mit" and colour of the nine player slots.
 // A click on a slot's colour gives it the next colour of the palette; one counter serves all
 // slots and keeps running while the program runs. "OK" hands the data over (the main window then
-// takes it through HoleSpielerDaten, reading this window as its source) and hides the window.
+// takes it through HoleSpielerDaten, reading this window as its source) and hides the window;
+// "Abbrechen", Escape and the frame's close button drop the edits.
 class frmSpieler : public QWidget, public SpielerDatenQuelle {
     Q_OBJECT
   public:
@@ -43,10 +44,14 @@ class frmSpieler : public QWidget, public SpielerDatenQuelle {
     // "OK": the data are ready to be taken over.
     void bestaetigt();
 
+  protected:
+    void closeEvent(QCloseEvent* ereignis) override;
+
   private:
     Dialoge& m_dialoge;
     std::array<std::string, MaxSpieler> m_namen;
     std::array<Farbe, MaxSpieler> m_farben{};
+    std::array<Farbe, MaxSpieler> m_farbenBeimZeigen{};
     std::array<i16, MaxSpieler> m_teilnehmer{};
     int m_farbzaehler = 5;
 

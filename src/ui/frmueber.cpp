@@ -33,6 +33,7 @@ frmUeber::frmUeber(QWidget* eltern) : QDialog(eltern) {
     setObjectName(QStringLiteral("frmÜber"));
     setWindowTitle(QStringLiteral("Über Kalimbo"));
     auto* spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(24, 20, 24, 16);  // the text keeps clear of the edge
     QLabel* produkt = zeile(this, "lblProdukt", QString::fromUtf8(Produktname));
     QFont gross = produkt->font();
     gross.setPointSizeF(gross.pointSizeF() * 2);
@@ -45,6 +46,8 @@ frmUeber::frmUeber(QWidget* eltern) : QDialog(eltern) {
     spalte->addSpacing(12);
     spalte->addWidget(
         zeile(this, "lblQt", QStringLiteral("Läuft mit Qt %1").arg(QString::fromUtf8(qVersion()))));
+    spalte->addWidget(
+        zeile(this, "lblHilfe", QStringLiteral("Hilfe und Kontakt: siehe README.md des Projekts")));
     auto* knoepfe = new QDialogButtonBox(QDialogButtonBox::Ok, this);
     QPushButton* ok = knoepfe->button(QDialogButtonBox::Ok);
     ok->setObjectName(QStringLiteral("cmdOK"));

@@ -5,7 +5,7 @@
 namespace kalimbo::ui {
 
 // The About box: product name, version line, what the program does, the Qt version it runs on,
-// and an OK button that closes it. Shown modally with exec().
+// where help and contact are found, and an OK button that closes it. Shown modally.
 class frmUeber : public QDialog {
     Q_OBJECT
   public:

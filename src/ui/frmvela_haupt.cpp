@@ -42,7 +42,7 @@ const QString OhneAnlass = QStringLiteral("---");
 }  // namespace
 
 frmVela_Haupt::frmVela_Haupt(Dialoge& dialoge, const std::string& startdatei, QWidget* eltern)
-    : QMainWindow(eltern), m_dialoge(dialoge) {
+    : QMainWindow(eltern), m_dialoge(dialoge), m_startdatei(startdatei) {
     setObjectName(QStringLiteral("frmVela_Haupt"));
     QFont schrift = font();  // the layout is designed for a small font
     schrift.setPointSizeF(7.5);
@@ -53,10 +53,13 @@ frmVela_Haupt::frmVela_Haupt(Dialoge& dialoge, const std::string& startdatei, QW
     verbindePanels();
     verbindeMenue();
     m_bedienfeld->zeige(m_spiel);
-    // A game recovered or named on the command line ends by showing its last selected matchday, so
-    // matchday 0 of the empty game need not be drawn first.
+}
+
+// A game recovered or named on the command line ends by showing its last selected matchday, so
+// matchday 0 of the empty game need not be drawn first.
+void frmVela_Haupt::starte() {
     const bool wiederhergestellt = m_dokument->stelleWiederHer();
-    if (!wiederhergestellt && !startdatei.empty()) oeffne(startdatei);
+    if (!wiederhergestellt && !m_startdatei.empty()) oeffne(m_startdatei);
     fangeFehler(this, m_dialoge, [&] {
         if (!wiederhergestellt && m_spiel.Dateipfad.empty()) lblSpieltagWahl_Click(0);
         lblSpieler_Click(0);
@@ -93,8 +96,11 @@ void frmVela_Haupt::verbindePanels() {
             sicher(&frmVela_Haupt::lblTabName_Click));
     connect(m_ansicht, &Spieltagsansicht::bearbeitet, m_dokument, &Dokument::geaendert);
     connect(m_dokument, &Dokument::spielGeaendert, this, sicher(&frmVela_Haupt::folgeInfobox));
-    connect(m_ansicht, &Spieltagsansicht::ueberlauf, this,
-            [this] { m_dialoge.meldung(this, fehlermeldung(Laufzeitfehler(Laufzeitfehler::Ueberlauf))); });
+    connect(m_ansicht, &Spieltagsansicht::ueberlauf, this, [this](const QString& feld) {
+        m_dialoge.warnung(this, QStringLiteral("Die Eingabe für %1 ist zu groß: höchstens 32767 Tore. Das "
+                                               "Feld behält seinen bisherigen Wert.")
+                                    .arg(feld));
+    });
     connect(m_bedienfeld, &Bedienfeld::uebernehmen, this, sicher([this] { cmdSonntag_Click(); }));
     connect(m_bedienfeld, &Bedienfeld::auswerten, this, sicher([this] { auswerten(OhneAnlass); }));
 }
@@ -159,6 +165,7 @@ void frmVela_Haupt::zeigeBeimStart() {
         showMaximized();
     else
         show();
+    starte();
 }
 
 void frmVela_Haupt::closeEvent(QCloseEvent* ereignis) {
@@ -277,6 +284,7 @@ Fenster& frmVela_Haupt::fenster(Fenster*& zeiger) {
 
 void frmVela_Haupt::verbindeFenster(frmRegel* regel) {
     connect(regel, &frmRegel::bestaetigt, this, sicher(&frmVela_Haupt::uebernimmEigeneRegel));
+    connect(regel, &frmRegel::abgebrochen, this, sicher(&frmVela_Haupt::stelleRegelWiederHer));
 }
 
 void frmVela_Haupt::verbindeFenster(frmSpieler* spieler) {
@@ -311,8 +319,26 @@ void frmVela_Haupt::menReg_Click(i16 modus) {
 // The own rule's window is opened without waiting for it; the rule is in force at once, with the
 // points and colours of the rule before until the window is confirmed.
 void frmVela_Haupt::menRegEigene_Click() {
+    frmRegel& regel = fenster(m_frmRegel);
+    if (!regel.isVisible()) {
+        m_modusVorher = m_spiel.Modus;
+        for (std::size_t art = 0; art < 3; ++art) {
+            m_regelVorher.punkte[art] = m_spiel.getModusPunkte(static_cast<int>(art));
+            m_regelVorher.farben[art] = m_spiel.getModusFarbe(static_cast<int>(art));
+        }
+    }
     menReg_Click(ModusEigeneRegel);
-    fenster(m_frmRegel).zeige(m_spiel);
+    regel.zeige(m_spiel);
+}
+
+void frmVela_Haupt::stelleRegelWiederHer() {
+    m_dokument->aendere(
+        [this](Spielstand& s) {
+            setzeEigeneRegel(s, m_regelVorher);
+            waehleRegel(s, m_modusVorher);
+        },
+        {.daten = true});
+    zeigeRegelhaken(m_menue, m_spiel.Modus);
 }
 
 void frmVela_Haupt::menSpielerAe_Click() {

@@ -37,14 +37,18 @@ class Tipptabellen;
 class frmVela_Haupt : public QMainWindow {
     Q_OBJECT
   public:
-    // Starts with the game file `startdatei` (file-system bytes) open, if one is given; a recovery
-    // copy the user takes comes first.
+    // The window with an empty game; starte() opens the game file `startdatei` (file-system bytes),
+    // if one is given.
     explicit frmVela_Haupt(Dialoge& dialoge, const std::string& startdatei = {}, QWidget* eltern = nullptr);
 
     const Spielstand& spiel() const { return m_spiel; }
     // Opens a game file as "Öffnen" does once the dialog has given the path (file-system bytes).
     void oeffne(const std::string& pfad);
-    // Shows the window: maximised on screens less than 768 pixels high, else at its designed size.
+    // Opens the game to start with: a recovery copy the user takes, else the start file, else the
+    // empty game's first matchday. Its messages appear over the window when it is shown already.
+    void starte();
+    // Shows the window, maximised on screens less than 768 pixels high, else at its designed size;
+    // then starts.
     void zeigeBeimStart();
     static bool startMaximiert(int bildschirmhoehe) { return bildschirmhoehe < 768; }
 
@@ -61,6 +65,7 @@ class frmVela_Haupt : public QMainWindow {
     Spielstand m_spiel;
     Hauptmenue m_menue{};
     Dokument* m_dokument;
+    std::string m_startdatei;
 
     Spieltagswahl* m_wahl;
     Spieltagsansicht* m_ansicht;
@@ -76,6 +81,9 @@ class frmVela_Haupt : public QMainWindow {
     frmSimulation* m_frmSimulation = nullptr;
     frmGrafik* m_frmGrafik = nullptr;
     frmUeber* m_frmUeber = nullptr;
+    // The rule in force before the own rule's window opened, for when it closes without "OK".
+    i16 m_modusVorher = 0;
+    EigeneRegel m_regelVorher{};
 
     void baueFenster();
     void verbindePanels();
@@ -120,6 +128,7 @@ class frmVela_Haupt : public QMainWindow {
     void cmdSonntag_Click();
     void menReg_Click(i16 modus);
     void menRegEigene_Click();
+    void stelleRegelWiederHer();
     void menSpielerAe_Click();
     void zeigeAuswahl(const Auswahlergebnis& ergebnis);
 };

@@ -254,11 +254,11 @@ class FrmGrafikTest : public ui::test::FensterTest<frmGrafik> {
     void legendeLandetAmAblegepunkt_data() {
         QTest::addColumn<QList<QPoint>>("ablagen");  // release points, relative to the handle then
         QTest::addColumn<QPoint>("ursprung");        // expected top left of the first row
-        const QPoint griff(px(13140), px(795));
+        const QPoint griff(px(420), px(855));
         QTest::newRow("kurz") << QList<QPoint>{{5, 7}} << griff + QPoint(5, 7);
-        QTest::newRow("auf die Grafik") << QList<QPoint>{{-600, 300}} << griff + QPoint(-600, 300);
-        QTest::newRow("zweimal") << QList<QPoint>{{-600, 300}, {20, -10}}
-                                 << griff + QPoint(-600, 300) + QPoint(-px(180), -px(60)) + QPoint(20, -10);
+        QTest::newRow("auf die Grafik") << QList<QPoint>{{600, 300}} << griff + QPoint(600, 300);
+        QTest::newRow("zweimal") << QList<QPoint>{{600, 300}, {20, -10}}
+                                 << griff + QPoint(600, 300) + QPoint(-px(180), -px(60)) + QPoint(20, -10);
     }
     void legendeLandetAmAblegepunkt() {
         QFETCH(QList<QPoint>, ablagen);

@@ -9,10 +9,10 @@
 #include "fenstertest.h"
 #include "hauptfenster.h"
 #include "kurzesspiel.h"
+#include "quellen/spielplan.h"
 #include "scoring/auswertung.h"
 #include "simulation/abweichung.h"
 #include "simulation/vorhersage.h"
-#include "quellen/spielplan.h"
 #include "ui/bausteine/twips.h"
 
 using namespace kalimbo;

@@ -2,15 +2,12 @@
 // file a save proposes, refused files, the window title, and what opening shows at once.
 #include <sys/stat.h>
 #include <unistd.h>
-#include <QDialogButtonBox>
 #include <QDir>
 #include <QGroupBox>
-#include <QPushButton>
 #include <QSettings>
 
 #include "hauptfenster.h"
 #include "state/spieldatei.h"
-#include "ui/bausteine/uebersetzung.h"
 
 using namespace kalimbo;
 using namespace kalimbo::ui;
@@ -163,13 +160,6 @@ class HauptDateienTest : public QObject {
         QVERIFY(h.fenster->isWindowModified());
     }
 
-    void qtsDialogeSprechenDeutsch() {
-        QVERIFY(ladeQtUebersetzung(*QCoreApplication::instance(), QLocale(QLocale::German)));
-        QDialogButtonBox knoepfe(QDialogButtonBox::Cancel | QDialogButtonBox::Save);
-        QCOMPARE(knoepfe.button(QDialogButtonBox::Cancel)->text(), QStringLiteral("Abbrechen"));
-        QCOMPARE(knoepfe.button(QDialogButtonBox::Save)->text(), QStringLiteral("Speichern"));
-    }
-
     void speichernUndWiederOeffnen() {
         Hauptfenster h;
         h.oeffneSpiel();
@@ -222,6 +212,7 @@ class HauptDateienTest : public QObject {
         const std::string name = QFile::encodeName(h.ordner.path()).toStdString() + "/sp\xe4l.tip";
         speichereSpieldatei(name, kleinesSpiel(20));
         h.fenster = std::make_unique<frmVela_Haupt>(h.dialoge, name);
+        h.fenster->starte();
         QCOMPARE(h.spiel().getAnzTeams(), 19);
         h.aktion("menReg2")->trigger();
         h.dialoge.antworten << QFile::decodeName(QByteArray::fromStdString(name));  // the proposal

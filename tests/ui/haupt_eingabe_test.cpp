@@ -280,7 +280,9 @@ class HauptEingabeTest : public QObject {
         QTest::keyClick(feld, Qt::Key_Backspace);
         QTest::keyClick(feld, Qt::Key_8);
         QCOMPARE(feld->text(), QStringLiteral("3276"));
-        QCOMPARE(h.meldungen(), QStringList{"Laufzeitfehler '6':\n\nÜberlauf"});
+        QCOMPARE(h.meldungen(),
+                 QStringList{"Die Eingabe für das Gastergebnis von „Nürnberg – Offenbach“ ist zu "
+                             "groß: höchstens 32767 Tore. Das Feld behält seinen bisherigen Wert."});
     }
 
     void spieltagswechselBehaeltGetippteWerte() {

@@ -32,6 +32,7 @@ class HauptInfoboxTest : public QObject {
         QCOMPARE(kasten(h), QString());
         h.fenster = std::make_unique<frmVela_Haupt>(
             h.dialoge, QFile::encodeName(h.ordner.filePath("spiel.tip")).toStdString());
+        h.fenster->starte();
         QCOMPARE(titel(h), QStringLiteral("Spielerinformationen: Anna"));  // player 0 at start
         QCOMPARE(kasten(h), alsText(SpielerInfoText(h.spiel(), Anna, ".")));
         h.klick(h.label("lblSpieler", Dieter));
@@ -109,7 +110,7 @@ class HauptInfoboxTest : public QObject {
         QVERIFY(bytes.contains("  Torverh\xE4ltnis: \t0:3\r\n"));
         const QRegularExpression schluss(
             QStringLiteral("\r\n  - \r\n  automatisch erstellt mit 'Kalimbo' - Version 5\\.0\\.1 "
-                           "\\[[^,\\]]+, [^\\]]+\\]\r\n$"));
+                           "\\[\\d\\d\\.\\d\\d\\.\\d{4}, \\d\\d:\\d\\d\\]\r\n$"));
         QVERIFY2(schluss.match(QString::fromLatin1(bytes)).hasMatch(), bytes.right(120).constData());
 
         h.dialoge.antworten << QString();  // cancelled: nothing written

@@ -33,6 +33,7 @@ bool warteAufKopie() {
 int kind(const char* spiel) {
     TestDialoge dialoge;
     frmVela_Haupt fenster(dialoge, spiel);
+    fenster.starte();
     QTest::mouseClick(fenster.findChild<QLabel*>(QStringLiteral("lblHeimTeam_4")), Qt::LeftButton);
     if (!warteAufKopie()) return 1;
     std::cout << "bereit" << std::endl;
@@ -57,7 +58,8 @@ class HauptWiederherstellungTest : public QObject {
         QCOMPARE(prozess.readAllStandardOutput().trimmed(), QByteArray("bereit"));
         {
             TestDialoge dialoge;
-            const frmVela_Haupt zweites(dialoge);
+            frmVela_Haupt zweites(dialoge);
+            zweites.starte();
             QVERIFY(dialoge.fragen.isEmpty());
         }
         prozess.kill();
@@ -65,7 +67,8 @@ class HauptWiederherstellungTest : public QObject {
 
         Hauptfenster h(Hauptfenster::Wiederherstellen{Antwort::Ja});
         QCOMPARE(h.dialoge.fragen.size(), 1);
-        QVERIFY2(QRegularExpression(QStringLiteral("^Ungespeicherte Änderungen vom .+ wiederherstellen\\?$"))
+        QVERIFY2(QRegularExpression(QStringLiteral("^Ungespeicherte Änderungen vom \\d\\d\\.\\d\\d\\.\\d{4}, "
+                                                   "\\d\\d:\\d\\d wiederherstellen\\?$"))
                      .match(h.dialoge.fragen[0])
                      .hasMatch(),
                  qPrintable(h.dialoge.fragen[0]));
@@ -128,6 +131,7 @@ class HauptWiederherstellungTest : public QObject {
         h.dialoge.jaNein = {Antwort(antwort)};
         const QString anderes = h.speichere("anderes.tip", kleinesSpiel(20));
         h.fenster = std::make_unique<frmVela_Haupt>(h.dialoge, QFile::encodeName(anderes).toStdString());
+        h.fenster->starte();
         QCOMPARE(h.dialoge.fragen.size(), 1);
         QTEST(int(h.spiel().Modus), "modus");
         QTEST(h.aktion("menRecent_1")->text(), "zuletzt");

@@ -54,6 +54,7 @@ Hauptfenster::Hauptfenster(Wiederherstellen antwort) {
     QSettings(QStringLiteral("zorb 5.0"), QStringLiteral("Kalimbo")).clear();
     dialoge.jaNein << antwort.antwort;
     fenster = std::make_unique<frmVela_Haupt>(dialoge);
+    fenster->starte();
     dialoge.jaNein.clear();
 }
 
@@ -95,6 +96,7 @@ void Hauptfenster::oeffneSpiel(const Dateiinhalt& inhalt) {
 void Hauptfenster::neuStarten() {
     fenster.reset();  // the old run ends before the new one starts
     fenster = std::make_unique<frmVela_Haupt>(dialoge);
+    fenster->starte();
 }
 
 QStringList Hauptfenster::meldungen() {

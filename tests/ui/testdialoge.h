@@ -22,6 +22,7 @@ class TestDialoge : public Dialoge {
     QStringList filter;                // their filters
     QStringList vorschlaege;           // names proposed by save dialogs
     QStringList meldungen;             // texts of the message boxes shown
+    QStringList warnungen;             // those of them shown with the warning icon
     QStringList fragen;                // questions asked
     QList<Antwort> jaNein;             // answers to the next questions; "Nein" when none is left
     QStringList speicherfragen;        // games asked about before they go
@@ -46,6 +47,10 @@ class TestDialoge : public Dialoge {
         return antworten.isEmpty() ? QString() : antworten.takeFirst();
     }
     void meldung(QWidget*, const QString& text) override { meldungen << text; }
+    void warnung(QWidget*, const QString& text) override {
+        meldungen << text;
+        warnungen << text;
+    }
     Antwort frage(QWidget*, const QString& text) override {
         fragen << text;
         return jaNein.isEmpty() ? Antwort::Nein : jaNein.takeFirst();

@@ -76,6 +76,10 @@ void QtDialoge::meldung(QWidget* eltern, const QString& text) {
     QMessageBox::information(eltern, QStringLiteral("Kalimbo"), text);
 }
 
+void QtDialoge::warnung(QWidget* eltern, const QString& text) {
+    QMessageBox::warning(eltern, QStringLiteral("Kalimbo"), text);
+}
+
 namespace {
 
 // Asks `text` with the buttons given as (button, German text); Escape presses the last one.

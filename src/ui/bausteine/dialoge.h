@@ -32,8 +32,10 @@ class Dialoge {
                               const QString& vorschlag) = 0;
     enum class Antwort { Ja, Nein, Abbrechen };
 
-    // A message with only an OK button.
+    // A message with only an OK button and the information icon.
     virtual void meldung(QWidget* eltern, const QString& text) = 0;
+    // An error or refused input: as meldung, with the warning icon.
+    virtual void warnung(QWidget* eltern, const QString& text) = 0;
     // A question with "Ja", "Nein" and "Später"; Escape answers "Später" (Abbrechen): not now.
     virtual Antwort frage(QWidget* eltern, const QString& text) = 0;
     // Whether to save the changes of the game named `name` before it goes: "Speichern" (Ja),
@@ -57,6 +59,7 @@ class QtDialoge : public Dialoge {
     QString speichern(QWidget* eltern, const QString& titel, const QString& filter,
                       const QString& vorschlag) override;
     void meldung(QWidget* eltern, const QString& text) override;
+    void warnung(QWidget* eltern, const QString& text) override;
     Antwort frage(QWidget* eltern, const QString& text) override;
     Antwort speichernFragen(QWidget* eltern, const QString& name) override;
     void druckvorschau(QWidget* eltern, QPrinter& drucker,

@@ -17,7 +17,7 @@ void fangeFehler(QWidget* eltern, Dialoge& dialoge, const std::function<void()>&
     try {
         handler();
     } catch (const std::exception& e) {
-        dialoge.meldung(eltern, fehlermeldung(e));
+        dialoge.warnung(eltern, fehlermeldung(e));
     }
 }
 

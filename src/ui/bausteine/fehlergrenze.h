@@ -17,7 +17,7 @@ class Dialoge;
 QString fehlermeldung(const std::exception& fehler);
 
 // Runs one event handler. An error thrown by the core ends the handler and is shown in a message
-// box; the application keeps running.
+// box with the warning icon; the application keeps running.
 void fangeFehler(QWidget* eltern, Dialoge& dialoge, const std::function<void()>& handler);
 
 // `handler` as the slot of a connection: it runs inside fangeFehler, with the signal's arguments

@@ -13,6 +13,10 @@ namespace kalimbo::ui {
 // as much as the screen's free area allows, the rest reached by scrolling.
 void setzeRollbarenInhalt(QMainWindow* fenster, QWidget* inhalt, QSize entwurf);
 
+// The same for a window that is no QMainWindow: returns the content, of the designed size
+// `entwurf`, to build the window's controls on. The window is never larger than its content.
+QWidget* rollbarerInhalt(QWidget* fenster, QSize entwurf);
+
 // A scroll area of `eltern` around `inhalt` for a dialog: as large as `inhalt` wants, up to nine
 // tenths of the width and three quarters of the height of the screen's free area, the rest reached
 // by scrolling. Tab passes over the area itself.

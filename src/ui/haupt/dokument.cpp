@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QLocale>
 #include <QWidget>
 #include <filesystem>
 
@@ -14,6 +13,7 @@
 #include "state/tippimport.h"
 #include "state/trainerdatei.h"
 #include "ui/bausteine/dialoge.h"
+#include "ui/bausteine/uebersetzung.h"
 
 namespace kalimbo::ui {
 
@@ -213,12 +213,12 @@ bool Dokument::stelleWiederHer() {
             kopie = fund.lies();
         } catch (const std::exception& fehler) {
             const QString beiseite = fund.legeBeiseite();
-            m_dialoge.meldung(m_fenster,
+            m_dialoge.warnung(m_fenster,
                               QString::fromStdString(deutscheMeldung(fehler)) +
                                   QStringLiteral("\n\nDie Kopie liegt jetzt unter „%1“.").arg(beiseite));
             continue;
         }
-        const QString zeit = QLocale().toString(kopie.zeit, QLocale::ShortFormat);
+        const QString zeit = deutschesDatum(kopie.zeit.date()) + ", " + deutscheUhrzeit(kopie.zeit.time());
         switch (m_dialoge.frage(
             m_fenster, QStringLiteral("Ungespeicherte Änderungen vom %1 wiederherstellen?").arg(zeit))) {
             case Dialoge::Antwort::Nein:

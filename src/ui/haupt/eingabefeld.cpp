@@ -92,9 +92,16 @@ void Eingabefeld::paintEvent(QPaintEvent*) {
     maler.setPen(palette().color(QPalette::Dark));
     maler.drawRect(rect().adjusted(0, 0, -1, -1));
     maler.setPen(m_schrift);
+    // A number too wide for the box ("000", a stored 12345) is written smaller rather than cut off.
+    const int platz = width() - 6, breite = fontMetrics().horizontalAdvance(m_text);
+    if (breite > platz) {
+        QFont kleiner = font();
+        kleiner.setPointSizeF(kleiner.pointSizeF() * platz / breite);
+        maler.setFont(kleiner);
+    }
     maler.drawText(rect(), Qt::AlignCenter, m_text);
     if (hasFocus()) {  // the place where typing goes
-        const int x = (width() + fontMetrics().horizontalAdvance(m_text)) / 2 + 1;
+        const int x = (width() + maler.fontMetrics().horizontalAdvance(m_text)) / 2 + 1;
         maler.drawLine(x, 3, x, height() - 4);
     }
 }

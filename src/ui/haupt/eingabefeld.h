@@ -43,7 +43,8 @@ class Eingabefeld : public QWidget {
     void bearbeitungBeginnt();
     void bearbeitungEndet();
     void geaendert();
-    // A typed digit would have made the result larger than a score can be (32767): not taken.
+    // Typed or pasted digits would have made the number larger than a score can be (32767): not
+    // taken, the box keeps its text.
     void ueberlauf();
 
   protected:

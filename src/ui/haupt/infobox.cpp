@@ -11,9 +11,9 @@
 #include "reports/teaminfo.h"
 #include "reports/textexport.h"
 #include "ui/bausteine/dialoge.h"
-
 #include "ui/bausteine/elemente.h"
 #include "ui/bausteine/twips.h"
+#include "ui/bausteine/uebersetzung.h"
 
 namespace kalimbo::ui {
 
@@ -91,10 +91,9 @@ void Infobox::setzeHoehen(int rahmen, int textfeld) {
 void Infobox::exportiere(Dialoge& dialoge, const std::string& fussnote) {
     const QString pfad = waehleBerichtsdatei(dialoge, window());
     if (pfad.isEmpty()) return;
-    const QLocale ort;
     speichereBericht(QFile::encodeName(pfad).toStdString(), m_text, fussnote,
-                     ort.toString(QDate::currentDate(), QLocale::ShortFormat).toStdString(),
-                     ort.toString(QTime::currentTime(), QLocale::ShortFormat).toStdString());
+                     deutschesDatum(QDate::currentDate()).toStdString(),
+                     deutscheUhrzeit(QTime::currentTime()).toStdString());
 }
 
 }  // namespace kalimbo::ui

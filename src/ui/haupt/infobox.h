@@ -33,7 +33,7 @@ class Infobox : public QGroupBox {
     // The text shown, exactly as the core built it (UTF-8, CR LF).
     const std::string& text() const { return m_text; }
     // Saves the text shown as a text file chosen in a dialog, with the footer and the date and time
-    // in the user's short forms. Cancelling writes nothing; a write error is a Dateifehler and an
+    // ("24.11.2026, 01:01"). Cancelling writes nothing; a write error is a Dateifehler and an
     // existing file stays as it was.
     void exportiere(Dialoge& dialoge, const std::string& fussnote);
     // Frame and text heights in twips.

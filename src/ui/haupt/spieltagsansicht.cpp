@@ -21,6 +21,9 @@ constexpr int Zeilenhoehe = 360;
 constexpr int ErsteSpalte = 4920;  // left of the first player column
 constexpr int Spaltenabstand = 960;
 constexpr int SpalteOben = 480;  // top of a player column
+constexpr int Spaltenbreite = 735;
+// A player's name stands over his column as wide as the pitch allows, centred.
+constexpr int Kopfbreite = Spaltenabstand - 30, Kopfversatz = (Kopfbreite - Spaltenbreite) / 2;
 constexpr auto Links = Qt::AlignLeft | Qt::AlignVCenter;
 constexpr auto Rechts = Qt::AlignRight | Qt::AlignVCenter;
 
@@ -95,7 +98,8 @@ Eingabefeld* Spieltagsansicht::eingabefeld(QWidget* eltern, const char* name, in
     connect(feld, &Eingabefeld::bearbeitungBeginnt, this, [this, feld] { feld_GotFocus(feld); });
     connect(feld, &Eingabefeld::bearbeitungEndet, this, [this, feld] { feld_LostFocus(feld); });
     connect(feld, &Eingabefeld::geaendert, this, &Spieltagsansicht::bearbeitet);
-    connect(feld, &Eingabefeld::ueberlauf, this, &Spieltagsansicht::ueberlauf);
+    connect(feld, &Eingabefeld::ueberlauf, this,
+            [this, art, index] { emit ueberlauf(feldname(art, index)); });
     return feld;
 }
 
@@ -123,10 +127,12 @@ void Spieltagsansicht::erzeugeSpiel(int k) {
 }
 
 void Spieltagsansicht::erzeugeSpielerspalte(int p) {
+    const int links = ErsteSpalte + p * Spaltenabstand;
     auto* saeule = element<QFrame>(this, indexName("fraSpielerSäule", p),
-                                   rechteck(ErsteSpalte + p * Spaltenabstand, SpalteOben, 735, 4380));
+                                   rechteck(links, SpalteOben, Spaltenbreite, 4380));
     fraSpielerSaeule[p] = saeule;
-    lblSpieler[p] = element<KlickLabel>(saeule, indexName("lblSpieler", p), rechteck(0, 0, 735, 240));
+    lblSpieler[p] = element<KlickLabel>(this, indexName("lblSpieler", p),
+                                        rechteck(links - Kopfversatz, SpalteOben, Kopfbreite, 240));
     lblSpieler[p]->setAlignment(Qt::AlignCenter);
     lblSpieler[p]->setCursor(Qt::PointingHandCursor);
     lblSpieler[p]->setToolTip(QStringLiteral("Spielerinformationen anzeigen"));
@@ -244,13 +250,16 @@ void Spieltagsansicht::zeigeSpieler(const Spielstand& spiel, int m) {
     for (int p = 0; p < MaxSpieler; ++p) {
         const bool spielt = spiel.getTeilnehmer(p) == 1;
         fraSpielerSaeule[p]->setVisible(spielt);
+        lblSpieler[p]->setVisible(spielt);
         if (!spielt) continue;
         const SpielerAuswertung& r = spiel.Auswertung[p];
         lblSptgPunkte[p]->setZahl(r.SpieltagPunkte[m]);
         lblSptgPlatz[p]->setZahl(plus16(r.SptgPlatz[m], 1));
         lblGesamtPunkte[p]->setZahl(r.GesamtPunkte);
         lblGesamtPlatz[p]->setZahl(plus16(r.Platz, 1));
-        fraSpielerSaeule[p]->move(px(spalte * Spaltenabstand + ErsteSpalte), fraSpielerSaeule[p]->y());
+        const int links = ErsteSpalte + spalte * Spaltenabstand;
+        fraSpielerSaeule[p]->move(px(links), fraSpielerSaeule[p]->y());
+        lblSpieler[p]->move(px(links - Kopfversatz), lblSpieler[p]->y());
         ++spalte;
     }
 }
@@ -282,6 +291,18 @@ Eingabefeld* Spieltagsansicht::bearbeitetesFeld() const {
 std::string Spieltagsansicht::wertVon(const Eingabefeld* feld) const {
     if (feld->wirdBearbeitet() && feld->text().isEmpty()) return std::to_string(m_wertBeiFokus[feld->art()]);
     return ascii(feld->text());
+}
+
+QString Spieltagsansicht::feldname(Eingabefeld::Art art, int index) const {
+    const int k = index % MaxSpiele;
+    const QString spiel = QStringLiteral("„%1 – %2“").arg(lblHeimTeam[k]->text(), lblAusTeam[k]->text());
+    const bool heim = art == Eingabefeld::HeimErgebnis || art == Eingabefeld::HeimTipp;
+    if (art == Eingabefeld::HeimErgebnis || art == Eingabefeld::AusErgebnis)
+        return (heim ? QStringLiteral("das Heimergebnis von ") : QStringLiteral("das Gastergebnis von ")) +
+               spiel;
+    return QStringLiteral("den %1 von %2 zu %3")
+        .arg(heim ? QStringLiteral("Heimtipp") : QStringLiteral("Gasttipp"),
+             lblSpieler[index / MaxSpiele]->text(), spiel);
 }
 
 Spieltagseintraege Spieltagsansicht::eintraege() const {

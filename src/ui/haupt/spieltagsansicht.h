@@ -45,8 +45,9 @@ class Spieltagsansicht : public QFrame {
     void spielerGeklickt(int spieler);
     // The user changed the text of a box.
     void bearbeitet();
-    // A typed digit was refused: the result would have been larger than 32767.
-    void ueberlauf();
+    // Typed or pasted digits were refused: the number would have been larger than 32767. `feld`
+    // names the box: "das Heimergebnis von „Aachen – Bochum“", "den Gasttipp von Anna zu „…“".
+    void ueberlauf(const QString& feld);
 
   private:
     std::array<KlickLabel*, MaxSpiele> lblHeimTeam{}, lblAusTeam{};
@@ -78,6 +79,8 @@ class Spieltagsansicht : public QFrame {
     // The box being edited, if the user is in one.
     Eingabefeld* bearbeitetesFeld() const;
     std::string wertVon(const Eingabefeld* feld) const;
+    // The box of kind `art` with index `index` in its control array, as ueberlauf names it.
+    QString feldname(Eingabefeld::Art art, int index) const;
 };
 
 }  // namespace kalimbo::ui

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+namespace kalimbo::ui {
+
+// Makes `fenster` a secondary window: a window of its own beside the main window, with its object
+// name and title, that Escape closes as the frame's close button does.
+void richteNebenfensterEin(QWidget* fenster, const QString& name, const QString& titel);
+
+}  // namespace kalimbo::ui
