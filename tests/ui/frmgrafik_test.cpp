@@ -91,7 +91,8 @@ class FrmGrafikTest : public ui::test::FensterTest<frmGrafik> {
     }
 
     void legendeZeigtTeilnehmerUndAndere() {
-        const QStringList erwartet{"Anna  |39|3|fett|#c80000", "Bernd  |26|2|fett|#fd00e6",
+        const QStringList erwartet{"Anna  |39|3|fett|" + qfarbe(AnnaFarbe).name(),
+                                   "Bernd  |26|2|fett|" + qfarbe(spiel.Spielerfarbe[1]).name(),
                                    "      ---|-|-|normal|" + qfarbe(Fenstertext).name()};
         for (int p = 0; p < 3; ++p) {
             QLabel* name = label("lblSpieler", p);
