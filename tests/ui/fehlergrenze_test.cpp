@@ -23,15 +23,9 @@ class FehlergrenzeTest : public QObject {
         QTest::newRow("Laufzeitfehler") << std::function<void()>([] {
             throw Laufzeitfehler(Laufzeitfehler::Ueberlauf, "bei den Gesamtpunkten von Spieler 1");
         }) << QStringLiteral("Laufzeitfehler '6':\n\nÜberlauf bei den Gesamtpunkten von Spieler 1");
-        QTest::newRow("Dateifehler") << std::function<void()>([] {
-            throw Dateifehler("Die Datei „x“ fehlt.");
-        }) << QStringLiteral("Die Datei „x“ fehlt.");
         QTest::newRow("Speicher") << std::function<void()>([] {
             throw std::bad_alloc();
         }) << QStringLiteral("Nicht genug Arbeitsspeicher; der Vorgang wurde abgebrochen.");
-        QTest::newRow("Bibliothek") << std::function<void()>([] {
-            throw std::filesystem::filesystem_error("cannot open", std::make_error_code(std::errc::io_error));
-        }) << QStringLiteral("Unerwarteter Fehler im Programm; der Vorgang wurde abgebrochen.");
     }
     void jederFehlerWirdDeutschGemeldet() {
         QFETCH(std::function<void()>, handler);

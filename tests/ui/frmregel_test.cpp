@@ -26,36 +26,26 @@ class FrmRegelTest : public QObject {
 
   private slots:
     void beginntMitDerRegelInKraft() {
-        Hauptfenster h;
-        h.oeffneSpiel();
+        Hauptfenster h(kleinesSpiel());
         h.aktion("menReg3")->trigger();
         h.aktion("menReg321")->trigger();
         frmRegel* fenster = oeffneFenster(h);
         QVERIFY(fenster->isVisible());
-        QCOMPARE(h.spiel().Modus, 3);
-        QVERIFY(h.aktion("menRegEigene")->isChecked() && !h.aktion("menReg321")->isChecked());
-        QCOMPARE(punkte(h, 0)->text(), QStringLiteral("3"));
-        QCOMPARE(punkte(h, 1)->text(), QStringLiteral("2"));
-        QCOMPARE(punkte(h, 2)->text(), QStringLiteral("1"));
-        QCOMPARE(flaeche(h, "lblFarbWahl", 0), QColor(255, 0, 0));
-        QCOMPARE(flaeche(h, "lblFarbWahl", 1), QColor(250, 250, 144));
-        QCOMPARE(flaeche(h, "lblFarbWahl", 2), QColor(48, 190, 48));
+        for (int art = 0; art < 3; ++art) {
+            QCOMPARE(punkte(h, art)->text(), QString::number(3 - art));
+            QCOMPARE(flaeche(h, "lblFarbWahl", art), qfarbe(h.spiel().getModusFarbe(art)));
+        }
         // Offered: index i belongs to kind i / 3 and shows offered colour i % 3.
-        const QColor angebot[] = {QColor(247, 25, 25), QColor(250, 250, 124), QColor(48, 190, 48)};
         for (int i = 0; i < 9; ++i)
-            QCOMPARE(flaeche(h, "lblFarbAlt", i), angebot[i % 3]);
-        const int fest[] = {0, 0, 0, 1, 2, 2, 2, 2, 2};
-        for (int i = 0; i < 9; ++i)
-            QCOMPARE(flaeche(h, "lblFarbeFest", i), angebot[fest[i]]);
-        QCOMPARE(fenster->windowTitle(), QStringLiteral("Eigene Regel bezüglich der Auswertung erstellen"));
+            QCOMPARE(flaeche(h, "lblFarbAlt", i), qfarbe(frmRegel::Angebot[static_cast<std::size_t>(i % 3)]));
     }
 
     void okSchreibtPunkteUndFarbenOhneAuswertung() {
-        Hauptfenster h;
-        h.oeffneSpiel();
+        Hauptfenster h(kleinesSpiel());
         const QString vorher = h.label("lblGesamtPunkte", Bernd)->text();  // 16 under 3-2-1
         oeffneFenster(h);
-        const QColor gewaehlt[] = {QColor(48, 190, 48), QColor(247, 25, 25), QColor(250, 250, 124)};
+        const auto angebot = [](int i) { return qfarbe(frmRegel::Angebot[static_cast<std::size_t>(i)]); };
+        const QColor gewaehlt[] = {angebot(2), angebot(0), angebot(1)};
         for (const int i : {2, 3, 7})  // kind i / 3 gets offered colour i % 3: each kind its own
             h.klick(h.label("lblFarbAlt", i));
         punkte(h, 0)->setText(QStringLiteral("5"));
@@ -76,8 +66,7 @@ class FrmRegelTest : public QObject {
     }
 
     void zuGrossePunktzahlAendertNichts() {
-        Hauptfenster h;
-        h.oeffneSpiel();
+        Hauptfenster h(kleinesSpiel());
         oeffneFenster(h);
         punkte(h, 0)->setText(QStringLiteral("7"));
         punkte(h, 2)->setText(QStringLiteral("40000"));

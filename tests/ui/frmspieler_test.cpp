@@ -27,11 +27,10 @@ class FrmSpielerTest : public QObject {
 
   private slots:
     void fuelltSichAusDemSpiel() {
-        Hauptfenster h;
         Dateiinhalt d = kleinesSpiel();
         d.Spielerfarbe[Anna] = rgb(1, 2, 3);
         d.Spielerfarbe[Clara] = rgb(4, 5, 6);  // not taking part: the window keeps its own colour
-        h.oeffneSpiel(d);
+        Hauptfenster h(d);
         frmSpieler* fenster = oeffneFenster(h);
         QVERIFY(fenster->isVisible());
         QCOMPARE(h.kind<QLineEdit>("txtSpieler_1")->text(), QStringLiteral("Bernd"));
@@ -42,13 +41,10 @@ class FrmSpielerTest : public QObject {
         for (int i = 0; i < 16; ++i)
             QCOMPARE(h.kind(Hauptfenster::indexName("shpFarbe", i))->palette().color(QPalette::Window),
                      palette(i));
-        QCOMPARE(frmSpieler::Palette[5], rgb(255, 128, 0));
-        QCOMPARE(frmSpieler::Palette[15], rgb(228, 248, 237));
     }
 
     void farbzaehlerLaeuftUeberAlleFelderUndBleibt() {
-        Hauptfenster h;
-        h.oeffneSpiel();
+        Hauptfenster h(kleinesSpiel());
         oeffneFenster(h);
         h.klick(h.label("lblSpielerFarbe", 0));
         QCOMPARE(farbeVon(h, 0), palette(5));  // the counter starts at the sixth colour
@@ -72,8 +68,7 @@ class FrmSpielerTest : public QObject {
     }
 
     void okGibtDieDatenOhneAuswertungWeiter() {
-        Hauptfenster h;
-        h.oeffneSpiel();
+        Hauptfenster h(kleinesSpiel());
         const QString punkte = h.label("lblGesamtPunkte", Bernd)->text();
         frmSpieler* fenster = oeffneFenster(h);
         h.kind<QLineEdit>("txtSpieler_1")->setText(QStringLiteral("Bernhard"));
@@ -105,8 +100,7 @@ class FrmSpielerTest : public QObject {
     }
 
     void nichtSpeicherbarerNameWirdAbgelehnt() {
-        Hauptfenster h;
-        h.oeffneSpiel();
+        Hauptfenster h(kleinesSpiel());
         frmSpieler* fenster = oeffneFenster(h);
         h.kind<QLineEdit>("txtSpieler_0")->setText(QStringLiteral("Anna"));
         h.kind<QLineEdit>("txtSpieler_1")->setText(QStringLiteral("Łukasz"));

@@ -4,6 +4,7 @@
 #include <unistd.h>
 #include <QDir>
 #include <QGroupBox>
+#include <QPushButton>
 #include <QSettings>
 
 #include "hauptfenster.h"
@@ -79,8 +80,7 @@ class HauptDateienTest : public QObject {
     void aenderungenWerdenVorDemOeffnenErfragt() {
         QFETCH(int, antwort);
         QFETCH(QStringList, dateien);
-        Hauptfenster h;
-        h.oeffneSpiel();
+        Hauptfenster h(kleinesSpiel());
         h.speichere("andere.tip", kleinesSpiel(20));
         QTest::keyClick(h.feld("txtHeimErgebnis", 0), Qt::Key_7);  // 1:0 becomes 17:0
         h.dialoge.speicherantworten = {Dialoge::Antwort(antwort)};
@@ -123,17 +123,6 @@ class HauptDateienTest : public QObject {
         QTRY_COMPARE(zuletztSchluessel()[3], QStringLiteral("Müller & Co.tip"));
     }
 
-    void oeffnenZeigtDieAuswertungSofort() {
-        Hauptfenster h;
-        h.oeffneSpiel();
-        QCOMPARE(h.label("lblGesamtPunkte", Bernd)->text(), QStringLiteral("16"));
-        QCOMPARE(h.label("lblGesamttabelle", 0)->text(), QStringLiteral("  Bernd"));
-        QVERIFY(
-            h.kind<QGroupBox>("fraBlitztabelle")->title().startsWith(QStringLiteral("Blitztabelle [---, ")));
-        QCOMPARE(h.label("lblTabName", 1)->text(), QStringLiteral("Hamburg"));
-        QCOMPARE(h.label("lblTabPunkte", 1)->text(), QStringLiteral("6"));
-    }
-
     void titelZeigtUngespeicherteAenderungen() {
         Hauptfenster h;
         QCOMPARE(h.fenster->windowTitle(), QStringLiteral("Kalimbo[*]"));
@@ -161,13 +150,11 @@ class HauptDateienTest : public QObject {
     }
 
     void speichernUndWiederOeffnen() {
-        Hauptfenster h;
-        h.oeffneSpiel();
+        Hauptfenster h(kleinesSpiel());
         h.feld("txtHeimTipp", Anna * 10 + 6)->setText("6");
         const QString ziel = h.ordner.filePath("gespeichert.tip");
         h.dialoge.antworten << ziel;
         h.aktion("menSpeichern")->trigger();
-        QCOMPARE(h.dialoge.titel.last(), QStringLiteral("Geben Sie den Namen der Datei zum Speichern ein!"));
         QCOMPARE(h.dialoge.vorschlaege, QStringList{h.ordner.filePath("spiel.tip")});
         QCOMPARE(h.spiel().Dateipfad, ziel.toStdString());
         QCOMPARE(h.aktion("menRecent_1")->text(), QStringLiteral("gespeichert.tip"));
@@ -176,12 +163,10 @@ class HauptDateienTest : public QObject {
         h.oeffne(ziel);
         QCOMPARE(h.spiel().getTipp(Anna, 1, 6, 0), 6);
         QCOMPARE(h.feld("txtHeimTipp", Anna * 10 + 6)->text(), QStringLiteral("6"));
-        QCOMPARE(h.dialoge.titel.last(), QStringLiteral("Wählen Sie den gespeicherten Spielstand!"));
     }
 
     void beschaedigteOderFehlendeDateiLaesstDasSpielStehen() {
-        Hauptfenster h;
-        h.oeffneSpiel();
+        Hauptfenster h(kleinesSpiel());
         h.oeffne(h.schreibe("kaputt.tip", QByteArray(5000, 'x')));
         const QStringList meldungen = h.meldungen();
         QCOMPARE(meldungen.size(), 1);

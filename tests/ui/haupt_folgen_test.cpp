@@ -19,20 +19,12 @@ using namespace kalimbo::ui::test;
 
 namespace {
 
-// The grid of frmHäufigkeiten as its cells show it.
-QStringList raster(const Hauptfenster& h) {
-    QStringList zellen;
+// Whether the grid of frmHäufigkeiten shows the counts of the game as it now is.
+bool rasterZeigtDasSpiel(const Hauptfenster& h) {
+    const Haeufigkeiten haeufigkeiten = zaehleHaeufigkeiten(h.spiel());
     for (int k = 0; k < AnzErgebnisklassen; ++k)
-        zellen << h.label("lblErgebnis", k)->text();
-    return zellen;
-}
-
-QStringList rasterVon(const Spielstand& spiel) {
-    const Haeufigkeiten haeufigkeiten = zaehleHaeufigkeiten(spiel);
-    QStringList zellen;
-    for (int k = 0; k < AnzErgebnisklassen; ++k)
-        zellen << QString::number(haeufigkeiten.anzahl(k));
-    return zellen;
+        if (h.label("lblErgebnis", k)->text() != QString::number(haeufigkeiten.anzahl(k))) return false;
+    return true;
 }
 
 // The deviation report of `spieler` as the simulation's text box shows it.
@@ -53,8 +45,7 @@ class HauptFolgenTest : public QObject {
     // open: each shows the new game only; Drucken keeps matchday 34, Simulation falls back to
     // player 0 from Bernd, Grafik keeps Anna's hidden marks; the closed Häufigkeiten stays closed.
     void offeneFensterZeigenDasNeueSpiel() {
-        Hauptfenster h;
-        h.oeffneSpiel();
+        Hauptfenster h(kleinesSpiel());
         for (const char* menue : {"menHäufigkeiten", "menDrucken", "menSimulation", "menGrafik"})
             h.aktion(QString::fromUtf8(menue))->trigger();
         h.kind<QComboBox>("cmbSpieltag")->setCurrentIndex(33);
@@ -76,13 +67,12 @@ class HauptFolgenTest : public QObject {
                  grafik::punktegrafik(h.spiel(), 37, ansicht).teile);
         QVERIFY(!h.kind("frmHäufigkeiten")->isVisible());
         h.aktion("menHäufigkeiten")->trigger();
-        QCOMPARE(raster(h), rasterVon(h.spiel()));
+        QVERIFY(rasterZeigtDasSpiel(h));
     }
 
     // A matchday the new game lacks falls back to the one shown, so no stale index reaches the sheet.
     void druckenFaelltAufDenGezeigtenSpieltagZurueck() {
-        Hauptfenster h;
-        h.oeffneSpiel(kleinesSpiel(20));
+        Hauptfenster h(kleinesSpiel(20));
         h.aktion("menDrucken")->trigger();
         h.kind<QComboBox>("cmbSpieltag")->setCurrentIndex(36);
         h.oeffneSpiel();
@@ -92,20 +82,18 @@ class HauptFolgenTest : public QObject {
 
     // A result typed and evaluated reaches the open windows at once.
     void auswertungErreichtDieOffenenFenster() {
-        Hauptfenster h;
-        h.oeffneSpiel();
+        Hauptfenster h(kleinesSpiel());
         h.aktion("menHäufigkeiten")->trigger();
         h.aktion("menSimulation")->trigger();
         h.klick(h.label("lblHeimTeam", 0));
-        QCOMPARE(raster(h), rasterVon(h.spiel()));
+        QVERIFY(rasterZeigtDasSpiel(h));
         QCOMPARE(h.kind<QPlainTextEdit>("txtPunkteDiff")->toPlainText(), bericht(h.spiel(), 0));
     }
 
     // Spielerdaten and Eigene Regel keep what the user is typing through a change of the game, and
     // close, dropping it, when another game is opened.
     void bearbeitungsfensterBehaltenEingabenBisEinAnderesSpielKommt() {
-        Hauptfenster h;
-        h.oeffneSpiel();
+        Hauptfenster h(kleinesSpiel());
         h.aktion("menSpielerAe")->trigger();
         h.aktion("menRegEigene")->trigger();
         h.kind<QLineEdit>("txtSpieler_0")->setText(QStringLiteral("Anke"));

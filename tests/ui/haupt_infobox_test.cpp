@@ -25,8 +25,7 @@ class HauptInfoboxTest : public QObject {
 
   private slots:
     void spielerblattBeimStartUndAufKlick() {
-        Hauptfenster h;
-        h.oeffneSpiel();
+        Hauptfenster h(kleinesSpiel());
         h.neuStarten();  // nothing open: no current matchday, no sheet, only the caption
         QCOMPARE(titel(h), QStringLiteral("Spielerinformationen: "));
         QCOMPARE(kasten(h), QString());
@@ -50,11 +49,11 @@ class HauptInfoboxTest : public QObject {
     // The box follows the game: an evaluation rebuilds the sheet shown (here a team's), another
     // game shows its player 0, or nothing while it has no current matchday.
     void folgtDemSpiel() {
-        Hauptfenster h;
-        h.oeffneSpiel();
-        h.klick(h.label("lblTabName", 1));
-        h.klick(h.label("lblHeimTeam", 3));  // a goal for Hamburg: its sheet follows
+        Hauptfenster h(kleinesSpiel());
+        h.klick(h.label("lblTabName", 1));  // Hamburg is second after matchdays 1 and 2
         QCOMPARE(titel(h), QStringLiteral("Mannschaftsinformationen: Hamburg"));
+        QCOMPARE(kasten(h), alsText(TeamInfoText(h.spiel(), 7)));
+        h.klick(h.label("lblHeimTeam", 3));  // a goal for Hamburg: its sheet follows
         QCOMPARE(kasten(h), alsText(TeamInfoText(h.spiel(), 7)));
         Dateiinhalt ohneSpieltag = kleinesSpiel(20);
         ohneSpieltag.AktSpieltagGlobal = KeinAktuellerSpieltag;
@@ -67,8 +66,7 @@ class HauptInfoboxTest : public QObject {
     }
 
     void dezimaltrennerDesBenutzers() {
-        Hauptfenster h;
-        h.oeffneSpiel();
+        Hauptfenster h(kleinesSpiel());
         QLocale::setDefault(QLocale(QLocale::German));
         h.klick(h.label("lblSpieler", Bernd));
         QLocale::setDefault(QLocale::c());
@@ -76,20 +74,11 @@ class HauptInfoboxTest : public QObject {
                  qPrintable(kasten(h)));  // 16 over 2
     }
 
-    void teamblattAufKlickInDerTabelle() {
-        Hauptfenster h;
-        h.oeffneSpiel();
-        h.klick(h.label("lblTabName", 1));  // Hamburg is second after matchdays 1 and 2
-        QCOMPARE(titel(h), QStringLiteral("Mannschaftsinformationen: Hamburg"));
-        QCOMPARE(kasten(h), alsText(TeamInfoText(h.spiel(), 7)));
-    }
-
     void divisionDurchNullWirdGemeldetUndDerKastenBleibt() {
-        Hauptfenster h;
         Dateiinhalt d = kleinesSpiel();
         d.Modus = 3;
         d.ModusPunkte[1] = 0;  // a margin hit is worth nothing: its count divides by zero
-        h.oeffneSpiel(d);
+        Hauptfenster h(d);
         const QString vorher = kasten(h);
         h.klick(h.label("lblSpieler", Bernd));
         QCOMPARE(h.meldungen(), QStringList{"Laufzeitfehler '11':\n\nDivision durch Null"});
@@ -98,8 +87,7 @@ class HauptInfoboxTest : public QObject {
     }
 
     void exportSchreibtDenKastenMitFussnoteInWindows1252() {
-        Hauptfenster h;
-        h.oeffneSpiel();
+        Hauptfenster h(kleinesSpiel());
         h.klick(h.label("lblTabName", 17));  // Fürth, last
         const QString ziel = h.ordner.filePath("fuerth.txt");
         h.dialoge.antworten << ziel;

@@ -8,6 +8,7 @@
 #include <iostream>
 
 #include "hauptfenster.h"
+#include "testdaten.h"
 #include "ui/haupt/wiederherstellung.h"
 
 using namespace kalimbo;
@@ -81,8 +82,7 @@ class HauptWiederherstellungTest : public QObject {
 
     // Quitting keeps the copy; Escape ("later") leaves it for the next start, "Nein" removes it.
     void beendenBehaeltDieKopieBisJaOderNein() {
-        Hauptfenster h;
-        h.oeffneSpiel();
+        Hauptfenster h(kleinesSpiel());
         h.feld("txtHeimTipp", Anna * 10 + 3)->setText("4");  // typed, not yet taken: in the copy too
         h.aktion("menReg2")->trigger();
         h.fenster->close();  // at once, before the copy's moment has come
@@ -97,8 +97,7 @@ class HauptWiederherstellungTest : public QObject {
     }
 
     void speichernOderUnveraendertSchliessenEntferntSie() {
-        Hauptfenster h;
-        h.oeffneSpiel();
+        Hauptfenster h(kleinesSpiel());
         h.klick(h.label("lblHeimTeam", 0));
         QVERIFY(warteAufKopie());
         h.dialoge.antworten << h.ordner.filePath("gesichert.tip");
@@ -123,8 +122,7 @@ class HauptWiederherstellungTest : public QObject {
     }
     void kopieVorDemStartargument() {
         QFETCH(int, antwort);
-        Hauptfenster h;
-        h.oeffneSpiel();
+        Hauptfenster h(kleinesSpiel());
         h.aktion("menReg2")->trigger();
         h.fenster->close();
         h.fenster.reset();
@@ -146,15 +144,12 @@ class HauptWiederherstellungTest : public QObject {
     }
     void beschaedigteKopieWirdBeiseiteGelegt() {
         QFETCH(QString, datei);
-        Hauptfenster h;
-        h.oeffneSpiel();
+        Hauptfenster h(kleinesSpiel());
         h.aktion("menReg2")->trigger();
         h.fenster->close();
         const QString kopie = Wiederherstellung::standardOrdner() + "/" + kopien()[0];
-        QFile f(kopie.chopped(3) + datei);
-        QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        f.write("[Allgemein\nzeit=morgen\n");
-        f.close();
+        kalimbo::test::schreibeBytes(QFile::encodeName(kopie.chopped(3) + datei).toStdString(),
+                                     "[Allgemein\nzeit=morgen\n");
         h.neuStarten();
         QVERIFY(h.dialoge.fragen.isEmpty());
         const QStringList meldungen = h.meldungen();

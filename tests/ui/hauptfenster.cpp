@@ -58,6 +58,10 @@ Hauptfenster::Hauptfenster(Wiederherstellen antwort) {
     dialoge.jaNein.clear();
 }
 
+Hauptfenster::Hauptfenster(const Dateiinhalt& spiel) : Hauptfenster() {
+    oeffneSpiel(spiel);
+}
+
 Hauptfenster::~Hauptfenster() {
     fenster.reset();
     QDir(Wiederherstellung::standardOrdner()).removeRecursively();  // nothing is offered to the next test

@@ -38,6 +38,8 @@ class Hauptfenster {
     };
     Hauptfenster();
     explicit Hauptfenster(Wiederherstellen antwort);
+    // A window with the game `spiel` opened from "spiel.tip".
+    explicit Hauptfenster(const Dateiinhalt& spiel);
     ~Hauptfenster();
 
     TestDialoge dialoge;

@@ -52,37 +52,26 @@ class MalerTest : public QObject {
     Q_OBJECT
 
   private slots:
-    void flaechenWerdenEinheitlichAbgebildet_data() {
-        QTest::addColumn<QSize>("groesse");
-        QTest::addColumn<QRectF>("ziel");
-        QTest::addColumn<QPoint>("punkt");
-        QTest::addColumn<uint>("farbe");
-        // 200 x 100 pixels: the smaller scale (100 / 1500) holds for both directions.
-        const QSize breit(200, 100);
-        const QRectF ganz(0, 0, 200, 100);
-        QTest::newRow("rot oben links") << breit << ganz << QPoint(24, 24) << uint(RotRgb);
-        QTest::newRow("weiss rechts davon") << breit << ganz << QPoint(60, 24) << uint(WeissRgb);
-        QTest::newRow("weiss darunter") << breit << ganz << QPoint(24, 60) << uint(WeissRgb);
-        QTest::newRow("blau in der Flaeche") << breit << ganz << QPoint(90, 10) << uint(BlauRgb);
-        QTest::newRow("nichts ausserhalb der Flaeche") << breit << ganz << QPoint(150, 10) << uint(WeissRgb);
-        // An offset target: everything moves with its top left corner.
-        const QRectF versetzt(40, 20, 150, 150);
-        QTest::newRow("versetzt: davor weiss")
-            << QSize(200, 200) << versetzt << QPoint(30, 30) << uint(WeissRgb);
-        QTest::newRow("versetzt: rot") << QSize(200, 200) << versetzt << QPoint(100, 80) << uint(RotRgb);
-        QTest::newRow("versetzt: rechts weiss")
-            << QSize(200, 200) << versetzt << QPoint(120, 80) << uint(WeissRgb);
-        QTest::newRow("versetzt: blau endet am Rand")
-            << QSize(200, 200) << versetzt << QPoint(189, 25) << uint(BlauRgb);
-        QTest::newRow("versetzt: jenseits des Randes")
-            << QSize(200, 200) << versetzt << QPoint(195, 25) << uint(WeissRgb);
-    }
+    // 200 x 100 pixels: the smaller scale (100 / 1500) holds for both directions. An offset target
+    // moves everything with its top left corner; nothing is drawn beyond the drawing's edge.
     void flaechenWerdenEinheitlichAbgebildet() {
-        QFETCH(QSize, groesse);
-        QFETCH(QRectF, ziel);
-        QFETCH(QPoint, punkt);
-        QFETCH(uint, farbe);
-        QCOMPARE(QColor(gemalt(quadrate(), groesse, ziel).pixel(punkt)), QColor(farbe));
+        const QImage breit = gemalt(quadrate(), {200, 100}, QRectF(0, 0, 200, 100));
+        const QImage versetzt = gemalt(quadrate(), {200, 200}, QRectF(40, 20, 150, 150));
+        QString farben;  // (r)ed, (b)lue or (w)hite at each point
+        for (const auto& [bild, x, y] : {std::tuple{&breit, 24, 24},
+                                         {&breit, 60, 24},
+                                         {&breit, 24, 60},
+                                         {&breit, 90, 10},
+                                         {&breit, 150, 10},
+                                         {&versetzt, 30, 30},
+                                         {&versetzt, 100, 80},
+                                         {&versetzt, 120, 80},
+                                         {&versetzt, 189, 25},
+                                         {&versetzt, 195, 25}}) {
+            const QRgb p = bild->pixel(x, y);
+            farben += p == RotRgb ? 'r' : p == BlauRgb ? 'b' : p == WeissRgb ? 'w' : '?';
+        }
+        QCOMPARE(farben, QStringLiteral("rwwbwwrwbw"));
     }
 
     void linieIstEinPixelBreit() {
