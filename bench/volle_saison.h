@@ -3,8 +3,8 @@
 #include <fstream>
 #include <stdexcept>
 
-#include "scoring/auswahl.h"
 #include "quellen/spielplan.h"
+#include "scoring/auswahl.h"
 
 namespace kalimbo {
 

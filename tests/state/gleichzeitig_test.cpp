@@ -1,9 +1,9 @@
 // Saves of one file by several processes at once: each succeeds, the file is always one of the
 // whole files, and a save removes only the temporary files of saves that provably cannot go on
 // (their process is gone), never that of a save still running.
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <signal.h>
-#include <fcntl.h>
 #include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -30,7 +30,8 @@ std::vector<std::string> namenIn(const fs::path& ordner) {
 
 // A child process that saves `bytes` over `ziel` once `start` can be read, with files limited to
 // `grenze` bytes (beyond, SIGXFSZ ends it), and exits 0 on success.
-pid_t speichereImKind(const fs::path& ziel, const std::string& bytes, int start = -1, rlim_t grenze = RLIM_INFINITY) {
+pid_t speichereImKind(const fs::path& ziel, const std::string& bytes, int start = -1,
+                      rlim_t grenze = RLIM_INFINITY) {
     const pid_t kind = fork();
     if (kind != 0) return kind;
     std::signal(SIGXFSZ, SIG_DFL);
@@ -82,7 +83,8 @@ TEST(GleichzeitigSpeichern, NurVerwaisteResteWerdenEntfernt) {
     ASSERT_EQ(reste.size(), 1u);  // ".HASH-PID-RANDOM.tmp" of the killed save
     const std::string vorne = reste[0].substr(0, reste[0].find('-') + 1);
     const std::string lebend = vorne + std::to_string(getpid()) + "-lebend.tmp";
-    const std::string gesperrt = vorne + reste[0].substr(vorne.size(), reste[0].rfind('-') - vorne.size()) + "-sperre.tmp";
+    const std::string gesperrt =
+        vorne + reste[0].substr(vorne.size(), reste[0].rfind('-') - vorne.size()) + "-sperre.tmp";
     test::schreibeBytes(ordner / lebend, "");
     test::schreibeBytes(ordner / gesperrt, "");
     const int sperre = open((ordner / gesperrt).c_str(), O_RDONLY);

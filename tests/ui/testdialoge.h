@@ -1,8 +1,8 @@
 #pragma once
 
+#include <QComboBox>
 #include <QPageLayout>
 #include <QPrinter>
-#include <QComboBox>
 #include <QPushButton>
 #include <QStringList>
 #include <QTemporaryDir>

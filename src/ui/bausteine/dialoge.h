@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QString>
-#include <functional>
 #include <QList>
+#include <QString>
 #include <QStringList>
+#include <functional>
 #include <optional>
 
 class QPrinter;

@@ -5,9 +5,9 @@
 #include <QWidget>
 #include <filesystem>
 
+#include "quellen/spielplan.h"
 #include "scoring/anzeige.h"
 #include "scoring/auswahl.h"
-#include "quellen/spielplan.h"
 #include "state/fehler.h"
 #include "state/spieldatei.h"
 #include "state/tippimport.h"
