@@ -191,22 +191,6 @@ class HauptEingabeTest : public QObject {
         QCOMPARE(h.spiel().Ergebnis, spiel.Ergebnis);
     }
 
-    void getippteZahlUeber32767WirdAbgelehnt() {
-        Hauptfenster h(kleinesSpiel());
-        Eingabefeld* feld = h.feld("txtAusErgebnis", 6);
-        betrete(feld);
-        QTest::keyClicks(feld, "3276");
-        QTest::keyClick(feld, Qt::Key_7);
-        QCOMPARE(feld->text(), QStringLiteral("32767"));
-        QCOMPARE(h.meldungen(), QStringList());
-        QTest::keyClick(feld, Qt::Key_Backspace);
-        QTest::keyClick(feld, Qt::Key_8);
-        QCOMPARE(feld->text(), QStringLiteral("3276"));
-        QCOMPARE(h.meldungen(),
-                 QStringList{"Die Eingabe für das Gastergebnis von „Nürnberg – Offenbach“ ist zu "
-                             "groß: höchstens 32767 Tore. Das Feld behält seinen bisherigen Wert."});
-    }
-
     void spieltagswechselBehaeltGetippteWerte() {
         Hauptfenster h(kleinesSpiel());
         h.feld("txtHeimTipp", Bernd * 10 + 2)->setText("9");

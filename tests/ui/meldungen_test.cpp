@@ -29,17 +29,22 @@ class MeldungenTest : public QObject {
         QCOMPARE(QLocale().decimalPoint(), QStringLiteral("."));
     }
 
-    void eingefuegteZahlUeber32767NenntDasFeld() {
+    // 32767 is the largest score a box takes; one more is refused with a warning naming the box.
+    void zahlUeber32767NenntDasFeld() {
         Hauptfenster h;
         h.oeffneSpiel();
         Eingabefeld* feld = h.feld("txtHeimErgebnis", 0);
         QFocusEvent hinein(QEvent::FocusIn, Qt::MouseFocusReason),
             hinaus(QEvent::FocusOut, Qt::TabFocusReason);
         QApplication::sendEvent(feld, &hinein);
-        QGuiApplication::clipboard()->setText("99999");
+        QGuiApplication::clipboard()->setText("3276");
         QTest::keyClick(feld, Qt::Key_V, Qt::ControlModifier);
+        QTest::keyClick(feld, Qt::Key_7);
+        QCOMPARE(h.dialoge.warnungen, QStringList());
+        QTest::keyClick(feld, Qt::Key_Backspace);
+        QTest::keyClick(feld, Qt::Key_8);
         QApplication::sendEvent(feld, &hinaus);
-        QCOMPARE(feld->text(), QStringLiteral("1"));  // Bochum - Cottbus 1:0 as before
+        QCOMPARE(feld->text(), QStringLiteral("3276"));
         QCOMPARE(h.dialoge.warnungen,
                  QStringList{"Die Eingabe für das Heimergebnis von „Bochum – Cottbus“ ist zu "
                              "groß: höchstens 32767 Tore. Das Feld behält seinen bisherigen "
@@ -52,10 +57,13 @@ class MeldungenTest : public QObject {
         h.oeffneSpiel();
         h.aktion("menSptgLetzten_3")->trigger();  // refused: an information
         h.aktion("menRegEigene")->trigger();
+        h.kind<QLineEdit>("txtNeuModus_0")->setText("7");
         h.kind<QLineEdit>("txtNeuModus_1")->setText("40000");
-        h.klick(h.kind("cmdOK"));  // a run-time error
+        h.klick(h.kind("cmdOK"));  // a run-time error: the rule stays, the window stays open
         QCOMPARE(h.dialoge.warnungen, QStringList{"Laufzeitfehler '6':\n\nÜberlauf"});
         QCOMPARE(h.meldungen().size(), 2);
+        QCOMPARE(h.spiel().getModusPunkte(0), 3);
+        QVERIFY(h.kind("frmRegel")->isVisible());
     }
 
     void startmeldungErscheintUeberDemFenster() {
