@@ -38,9 +38,6 @@ class FrmSpielerTest : public QObject {
         QVERIFY(!h.kind<QCheckBox>("chkTeilnehmer_2")->isChecked());
         QCOMPARE(farbeVon(h, Anna), QColor(1, 2, 3));
         QCOMPARE(farbeVon(h, Clara), palette(2));
-        for (int i = 0; i < 16; ++i)
-            QCOMPARE(h.kind(Hauptfenster::indexName("shpFarbe", i))->palette().color(QPalette::Window),
-                     palette(i));
     }
 
     void farbzaehlerLaeuftUeberAlleFelderUndBleibt() {
@@ -71,11 +68,6 @@ class FrmSpielerTest : public QObject {
         Hauptfenster h(kleinesSpiel());
         const QString punkte = h.label("lblGesamtPunkte", Bernd)->text();
         frmSpieler* fenster = oeffneFenster(h);
-        h.kind<QLineEdit>("txtSpieler_1")->setText(QStringLiteral("Bernhard"));
-        fenster->close();  // closed without OK: nothing is handed over
-        QCOMPARE(h.spiel().getSpielerName(Bernd), std::string("Bernd"));
-        QVERIFY(!h.fenster->isWindowModified());
-        oeffneFenster(h);
         h.kind<QLineEdit>("txtSpieler_0")->setText(QString());
         h.kind<QLineEdit>("txtSpieler_1")->setText(QStringLiteral("Bärbel"));
         h.kind<QCheckBox>("chkTeilnehmer_2")->setChecked(true);
