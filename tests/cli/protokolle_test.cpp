@@ -100,7 +100,11 @@ void dateienDerQuellen(const test::TempOrdner& tmp) {
     test::schreibeBytes(tmp / "riesig.csv", std::string(GroessteSaisondatei + 1, '\n'));
 }
 
-using Protokoll = std::pair<const char*, void (*)(const test::TempOrdner&)>;
+struct Protokoll {
+    const char* datei;
+    void (*vorbereiten)(const test::TempOrdner&);
+    friend void PrintTo(const Protokoll& p, std::ostream* aus) { *aus << p.datei; }
+};
 class Protokolle : public testing::TestWithParam<Protokoll> {};
 
 TEST_P(Protokolle, GebenAusWasDieDateiZeigt) {
