@@ -29,21 +29,6 @@ Dateiinhalt saison(const std::string& name) {
     return importiereSaison(ein, name);
 }
 
-std::vector<std::vector<std::string>> leseCsv(const fs::path& pfad) {
-    std::ifstream ein(pfad);
-    if (!ein) throw std::runtime_error("missing " + pfad.string());
-    std::vector<std::vector<std::string>> zeilen;
-    std::string zeile;
-    std::getline(ein, zeile);  // header
-    while (std::getline(ein, zeile)) {
-        std::istringstream felder(zeile + ',');  // a last empty field too
-        auto& z = zeilen.emplace_back();
-        for (std::string feld; std::getline(felder, feld, ',');)
-            z.push_back(feld);
-    }
-    return zeilen;
-}
-
 namespace {
 
 void setzeTore(Ergebnisse& ziel, int spieltag, std::string_view tore) {

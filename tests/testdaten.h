@@ -20,8 +20,6 @@ std::filesystem::path gemeinsameDaten(const std::string& datei);
 std::string testdatei(const std::string& name);
 // A new game built from the season's match list.
 Dateiinhalt saison(const std::string& name);
-// The rows of a CSV file below its header line, split at the commas (the shared data quotes nothing).
-std::vector<std::vector<std::string>> leseCsv(const std::filesystem::path& pfad);
 
 // The teams of match `spiel` on matchday `spieltag`, home first.
 using Paarung = std::function<std::array<int, 2>(int spieltag, int spiel)>;

@@ -100,14 +100,15 @@ TEST(Punktegrafik, KoordinatenBleibenIn16Bit) {
 // points of matchday index 12.
 TEST(Punktegrafik, ErsteAnsichtUndLegende) {
     Spielstand s = spiel({0, 2, 4, 8}, {});
-    EXPECT_EQ(ersteAnsicht(s).LinieZeigen,
-              (std::array<bool, 9>{true, false, true, false, true, false, false, false, true}));
-    EXPECT_EQ(ersteAnsicht(s).PunkteZeigen, (std::array<bool, 9>{}));
-    EXPECT_EQ(ersteAnsicht(s).Darstellung, Gesamtpunkte);
-    s = spiel(
-        {0, 1},
-        {{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1, 7, 2}, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 4, 0, 9}, {4, 4, 4}});
+    const Ansicht a = ersteAnsicht(s);
+    EXPECT_EQ(
+        std::tuple(a.Darstellung, a.LinieZeigen, a.PunkteZeigen),
+        std::tuple(Gesamtpunkte, std::array<bool, 9>{1, 0, 1, 0, 1, 0, 0, 0, 1}, std::array<bool, 9>{}));
+    s = spiel({0, 1}, {{}, {}, {4, 4, 4}});
     s.Spielername = {{"Anna", "Bernd", "Carl"}};
+    for (const auto& [p, tag, punkte] :
+         {std::tuple{0, 11, 1}, {0, 12, 7}, {0, 13, 2}, {1, 11, 4}, {1, 13, 9}})
+        s.Auswertung[p].SpieltagPunkte[tag] = static_cast<i16>(punkte);
     s.Auswertung[0].GesamtPunkte = 40;
     s.Auswertung[1].GesamtPunkte = 35;
     s.Auswertung[2].GesamtPunkte = 50;

@@ -59,20 +59,17 @@ TEST(SpielerInfo, DurchschnitteMitEinerOderZweiDezimalen) {
         std::string::npos);
 }
 
+// The selection emptied after the evaluation (43 / 0) or a tendency worth 0 points divides by zero; with no
+// current matchday nothing is built, so nothing is divided.
 TEST(SpielerInfo, DivisionDurchNullUndOhneAktuellenSpieltagKeinBlatt) {
-    const std::vector<std::function<void(Spielstand&)>> faelle{
-        [](Spielstand& s) {  // no matchday selected: 0 / 0
-            test::setzeAuswahl(s, "");
-            werteAus(s, false);
-        },
-        [](Spielstand& s) { test::setzeAuswahl(s, ""); },  // emptied after the evaluation: 43 / 0
-        [](Spielstand& s) { s.setModus(2, 0); },           // a tendency worth 0 points
-    };
-    for (const auto& aendere : faelle) {
+    for (const bool tendenzOhnePunkte : {false, true}) {
         Spielstand s = test::blattspiel20();
-        aendere(s);
+        if (tendenzOhnePunkte)
+            s.setModus(2, 0);
+        else
+            test::setzeAuswahl(s, "");
         EXPECT_EQ(test::fehler([&] { SpielerInfoText(s, 0, "."); }), "Division durch Null");
-        s.AktSpieltagGlobal = KeinAktuellerSpieltag;  // nothing is built, so nothing is divided
+        s.AktSpieltagGlobal = KeinAktuellerSpieltag;
         EXPECT_FALSE(SpielerInfoText(s, 0, "."));
     }
 }

@@ -35,13 +35,17 @@ Wahl trainer(int periode) {
 Wahl klick(int tag) {
     return [tag](Spielstand& s) { return schalteSpieltag(s, tag); };
 }
+// The same choice once the count `feld` (AnzSpiele, AnzSpieltage) holds `wert`.
+Wahl mit(i16 Dateiinhalt::*feld, i16 wert, Wahl wahl) {
+    return [=](Spielstand& s) {
+        s.*feld = wert;
+        return wahl(s);
+    };
+}
 // The same choice in a game whose matchdays have nine matches, whatever AnzSpieltage says: the half-season
 // choices take their half from the matches, "der Rückrunde" from the matchdays.
 Wahl neunSpiele(Wahl wahl) {
-    return [wahl](Spielstand& s) {
-        s.AnzSpiele = 8;
-        return wahl(s);
-    };
+    return mit(&Dateiinhalt::AnzSpiele, 8, wahl);
 }
 
 TEST(Auswahl, SetztGenauDieseSpieltageUndMeldetDieGeaenderten) {
@@ -107,16 +111,8 @@ TEST(Auswahl, SetztGenauDieseSpieltageUndMeldetDieGeaenderten) {
 }
 
 TEST(Auswahl, WasAusDenSpieltagenLaeuftAendertNichts) {
-    const std::vector<Wahl> faelle{[](Spielstand& s) {
-                                       s.AnzSpieltage = 38;
-                                       return waehleAlle(s);
-                                   },
-                                   [](Spielstand& s) {
-                                       s.AnzSpiele = 10;
-                                       return waehleHinrunde(s);
-                                   },
-                                   klick(38), trainer(10)};
-    for (const Wahl& wahl : faelle) {
+    for (const Wahl& wahl : {mit(&Dateiinhalt::AnzSpieltage, 38, waehleAlle),
+                             mit(&Dateiinhalt::AnzSpiele, 10, waehleHinrunde), klick(38), trainer(10)}) {
         Spielstand s = saison(38, 99, "2-6, 30");
         EXPECT_EQ(test::fehler([&] { wahl(s); }), "Index außerhalb des gültigen Bereichs");
         EXPECT_EQ(test::auswahl(s), "2-6, 30");

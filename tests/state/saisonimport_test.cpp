@@ -13,9 +13,11 @@ const std::string Kopf = "matchday,home,away,home_goals,away_goals";
 
 // The lines of the 18-team season's file, the header first.
 std::vector<std::string> echteZeilen() {
-    std::vector<std::string> zeilen{Kopf};
-    for (const auto& z : test::leseCsv(test::gemeinsameDaten(std::string(test::Saison18) + ".matches.csv")))
-        zeilen.push_back(z[0] + ',' + z[1] + ',' + z[2] + ',' + z[3] + ',' + z[4]);
+    std::istringstream ein(
+        test::leseBytes(test::gemeinsameDaten(std::string(test::Saison18) + ".matches.csv")));
+    std::vector<std::string> zeilen;
+    for (std::string zeile; std::getline(ein, zeile);)
+        zeilen.push_back(zeile);
     return zeilen;
 }
 

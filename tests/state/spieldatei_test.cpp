@@ -50,12 +50,6 @@ TEST(Spieldatei, GoldeneDateiHinUndZurueck) {
     EXPECT_EQ(lies(bytes), d);
     EXPECT_EQ(lies(bytes + "Reste einer älteren, längeren Datei"), d);
     EXPECT_EQ(kodiereSpieldatei(Dateiinhalt{}).size(), 17148u);
-
-    test::TempOrdner ordner;
-    speichereSpieldatei(ordner / "spiel.tip", d);
-    EXPECT_EQ(ladeSpieldatei(ordner / "spiel.tip"), d);
-    EXPECT_NE(test::fehler([&] { ladeSpieldatei(ordner.pfad()); }).find("Das ist ein Ordner."),
-              std::string::npos);
 }
 
 TEST(Spieldatei, JedeVerkuerzteDateiWirdAbgelehntUndDasSpielBleibt) {
@@ -71,26 +65,6 @@ TEST(Spieldatei, JedeVerkuerzteDateiWirdAbgelehntUndDasSpielBleibt) {
     EXPECT_EQ(kodiereSpieldatei(spiel), kodiereSpieldatei(vorher));
     EXPECT_EQ(spiel.Ergebnis, vorher.Ergebnis);
 }
-
-// Delivers `anzahl` zero bytes, counting what is taken.
-class Nullen : public std::streambuf {
-  public:
-    explicit Nullen(std::size_t anzahl) : m_rest(anzahl) {}
-    std::size_t geliefert = 0;
-
-  protected:
-    int_type underflow() override {
-        const std::size_t n = std::min(m_puffer.size(), m_rest);
-        m_rest -= n;
-        geliefert += n;
-        setg(m_puffer.data(), m_puffer.data(), m_puffer.data() + n);
-        return n == 0 ? traits_type::eof() : 0;
-    }
-
-  private:
-    std::array<char, 4096> m_puffer{};
-    std::size_t m_rest;
-};
 
 TEST(Spieldatei, HoechstensSoVielWieDieGroessteSpieldateiWirdGelesen) {
     struct LangeTexte {
@@ -109,10 +83,10 @@ TEST(Spieldatei, HoechstensSoVielWieDieGroessteSpieldateiWirdGelesen) {
 
     // 50 MB of zeros would read as a game with empty texts; it is refused after reading no more than the
     // largest game file (and the next piece).
-    Nullen nullen(50'000'000);
-    std::istream ein(&nullen);
+    std::istringstream ein(std::string(50'000'000, '\0'));
     EXPECT_THROW(leseSpieldatei(ein, "test.tip"), Dateifehler);
-    EXPECT_LE(nullen.geliefert, bytes.size() + 65536);
+    ein.clear();
+    EXPECT_LE(static_cast<std::size_t>(ein.tellg()), bytes.size() + 65536);
 }
 
 TEST(Spieldatei, UngueltigeWerteWerdenAbgelehnt) {
@@ -131,8 +105,9 @@ TEST(Spieldatei, UngueltigeWerteWerdenAbgelehnt) {
         EXPECT_NE(test::fehler([&] { lies(kodiereSpieldatei(d)); }).find(grund), std::string::npos) << grund;
     }
     std::string bytes = kodiereSpieldatei(Dateiinhalt{});
-    bytes.replace(0, 2, "\xFE\xFF");  // a text length of -2
-    EXPECT_THROW(lies(bytes), Dateifehler);
+    bytes.replace(0, 2, "\xFF\xFF");  // a text length of -1
+    EXPECT_NE(test::fehler([&] { lies(bytes); }).find("ein Text hat die negative Länge -1."),
+              std::string::npos);
 
     Dateiinhalt d = test::saison(test::Saison18);
     d.Spielername[2] = "Łukasz";  // refused before anything is written
