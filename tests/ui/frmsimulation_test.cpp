@@ -79,16 +79,8 @@ class FrmSimulationTest : public ui::test::FensterTest<frmSimulation> {
         schliesseFenster();
     }
 
-    void ligaUndBerichtsfeld() {
-        fenster->zeige(spiel);
-        QVERIFY(fenster->isWindow() && fenster->isVisible());
-        QCOMPARE(kind<QLabel>(QStringLiteral("lblLiga"))->text(), QStringLiteral("Testliga 2024/25"));
-        auto* text = kind<QPlainTextEdit>(QStringLiteral("txtPunkteDiff"));
-        QVERIFY(text->isReadOnly() && QFontInfo(text->font()).fixedPitch());
-        QCOMPARE(text->tabStopDistance(), 8 * QFontMetricsF(text->font()).horizontalAdvance(' '));
-    }
-
-    // Both tables and the report, at first (player 0) and after choosing another player.
+    // The league, both tables and the report (read-only, fixed pitch), at first (player 0) and after
+    // choosing another player.
     void tabellenUndBericht_data() {
         QTest::addColumn<int>("eintrag");  // chosen in the list, -1 none
         QTest::addColumn<int>("spieler");
@@ -104,6 +96,9 @@ class FrmSimulationTest : public ui::test::FensterTest<frmSimulation> {
         QLocale::setDefault(QLocale(sprache));
         fenster->zeige(spiel);
         if (eintrag >= 0) waehle(eintrag);
+        QCOMPARE(kind<QLabel>(QStringLiteral("lblLiga"))->text(), QStringLiteral("Testliga 2024/25"));
+        auto* text = kind<QPlainTextEdit>(QStringLiteral("txtPunkteDiff"));
+        QVERIFY(text->isReadOnly() && QFontInfo(text->font()).fixedPitch());
         QCOMPARE(tabelle(0), Echt);
         QTEST(tabelle(MaxTeams), "vorhersage");
         const std::string trenner = sprache == "C" ? "." : ",";
