@@ -87,7 +87,10 @@ class HauptImportTest : public QObject {
         Hauptfenster h(kleinesSpiel());
         importiere(h, "menTippdatei", h.schreibe("kaputt.tip", QByteArray(300, '\x7f')));
         importiere(h, "menImpTrainer",
-                   h.schreibe("kurz.tip", QByteArray("\x01\x00\x02\x00AB\x00\x00\x05\x00", 10)));
+                   h.schreibe("kurz.tip", QByteArray("\x01\x00\x02\x00"
+                                                     "AB"
+                                                     "\x00\x00\x05\x00",
+                                                     10)));
         const QStringList meldungen = h.meldungen();
         QCOMPARE(meldungen.size(), 2);
         QVERIFY2(meldungen[0].contains("kaputt.tip") && meldungen[1].contains("kurz.tip"),
