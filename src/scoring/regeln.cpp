@@ -8,6 +8,15 @@ std::string regelName(i16 modus) {
     return "unbekannte Regel " + std::to_string(modus);
 }
 
+EigeneRegel regelInKraft(const Spielstand& s) {
+    EigeneRegel regel{};
+    for (int art = 0; art < 3; ++art) {
+        regel.punkte[static_cast<std::size_t>(art)] = s.getModusPunkte(art);
+        regel.farben[static_cast<std::size_t>(art)] = s.getModusFarbe(art);
+    }
+    return regel;
+}
+
 void setzeEigeneRegel(Spielstand& s, const EigeneRegel& regel) {
     for (int art = 0; art < 3; ++art) {
         s.setModus(art, regel.punkte[static_cast<std::size_t>(art)]);

@@ -61,6 +61,9 @@ struct EigeneRegel {
     std::array<Farbe, 3> farben;
 };
 
+// The points and colours of the rule in force, as the own rule's window starts from them.
+EigeneRegel regelInKraft(const Spielstand& s);
+
 // Writes the own rule's points and colours (setModus, setFarbeMod). Nothing is re-evaluated.
 void setzeEigeneRegel(Spielstand& s, const EigeneRegel& regel);
 

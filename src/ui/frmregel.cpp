@@ -117,11 +117,11 @@ frmRegel::frmRegel(QWidget* eltern, Dialoge& dialoge) : QWidget(eltern), m_dialo
 void frmRegel::zeige(const Spielstand& spiel) {
     for (int i = 0; i < 9; ++i)
         setzeFlaeche(lblFarbAlt[static_cast<std::size_t>(i)], Angebot[static_cast<std::size_t>(i % 3)]);
-    for (int k = 0; k < 3; ++k) {
-        const auto s = static_cast<std::size_t>(k);
-        m_gewaehlt[s] = spiel.getModusFarbe(k);
-        setzeFlaeche(lblFarbWahl[s], m_gewaehlt[s]);
-        txtNeuModus[s]->setText(QString::number(spiel.getModusPunkte(k)));
+    const EigeneRegel inKraft = regelInKraft(spiel);
+    m_gewaehlt = inKraft.farben;
+    for (std::size_t k = 0; k < 3; ++k) {
+        setzeFlaeche(lblFarbWahl[k], m_gewaehlt[k]);
+        txtNeuModus[k]->setText(QString::number(inKraft.punkte[k]));
     }
     show();
     raise();

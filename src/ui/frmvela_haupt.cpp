@@ -322,10 +322,7 @@ void frmVela_Haupt::menRegEigene_Click() {
     frmRegel& regel = fenster(m_frmRegel);
     if (!regel.isVisible()) {
         m_modusVorher = m_spiel.Modus;
-        for (std::size_t art = 0; art < 3; ++art) {
-            m_regelVorher.punkte[art] = m_spiel.getModusPunkte(static_cast<int>(art));
-            m_regelVorher.farben[art] = m_spiel.getModusFarbe(static_cast<int>(art));
-        }
+        m_regelVorher = regelInKraft(m_spiel);
     }
     menReg_Click(ModusEigeneRegel);
     regel.zeige(m_spiel);
