@@ -112,8 +112,7 @@ void frmVela_Haupt::verbindeMenue() {
     verbinde(m.menSpeichern, [this] { m_dokument->menSpeichern_Click(); });
     verbinde(m.menTippdatei, [this] { m_dokument->menTippdatei_Click(); });
     verbinde(m.menImpTrainer, [this] { m_dokument->menImpTrainer_Click(); });
-    auto* ergebnisse = new Ergebnisabgleich(this, m_dialoge, *m_dokument, m_spiel,
-                                            [this] { return m_ansicht->eintraege(); });
+    auto* ergebnisse = new Ergebnisabgleich(this, m_dialoge, *m_dokument);
     verbinde(m.menImpErgebnisse, [ergebnisse] { ergebnisse->menImpErgebnisse_Click(); });
     connect(ergebnisse, &Ergebnisabgleich::ergebnisseGeaendert, this, [this] { zeichneSpieltag(); });
     for (int i = 0; i < 3; ++i)

@@ -42,6 +42,10 @@ class Dokument : public QObject {
     // change of the data, then spielGeaendert.
     void melde(Aenderung art);
 
+    const Spielstand& spiel() const { return m_spiel; }
+    // What is typed into the matchday view's boxes now.
+    Spieltagseintraege eintraege() const { return m_eintraege(); }
+
     // Opens the game file at `pfad` (file-system bytes; made absolute), as "Öffnen" does once the
     // dialog has answered. Asks nothing.
     void oeffne(const std::string& pfad);

@@ -6,6 +6,7 @@
 #include <map>
 
 #include "quellen/vereinsnamen.h"
+#include "state/eintraege.h"
 #include "state/fehler.h"
 #include "ui/bausteine/dialoge.h"
 #include "ui/bausteine/elemente.h"
@@ -64,14 +65,12 @@ Zuordnungsfrage frage(const Zuordnung& z, const Quelle& quelle, const Spielstand
 
 }  // namespace
 
-Ergebnisabgleich::Ergebnisabgleich(QWidget* fenster, Dialoge& dialoge, Dokument& dokument,
-                                   const Spielstand& spiel, std::function<Spieltagseintraege()> eintraege)
+Ergebnisabgleich::Ergebnisabgleich(QWidget* fenster, Dialoge& dialoge, Dokument& dokument)
     : QObject(fenster),
       m_fenster(fenster),
       m_dialoge(dialoge),
       m_dokument(dokument),
-      m_spiel(spiel),
-      m_eintraege(std::move(eintraege)) {}
+      m_spiel(dokument.spiel()) {}
 
 // What was typed into the boxes is taken first, so that a result typed there counts as the game's.
 // Replacing starts from the same game again, so that its summary counts as the first one does.
@@ -83,7 +82,7 @@ void Ergebnisabgleich::menImpErgebnisse_Click() {
     const std::optional<Zuordnung> zuordnung = ordneZu(quelle);
     if (!zuordnung) return;
     Spielstand vorher = m_spiel;
-    uebernimmEintraege(vorher, m_eintraege());
+    uebernimmEintraege(vorher, m_dokument.eintraege());
     const Ergebnisbericht bericht = uebernimm(vorher, quelle, *zuordnung, false);
     const bool ersetzbar = !bericht.abweichend.empty();
     if (m_dialoge.ergebnisbericht(m_fenster, text(berichtText(bericht, m_spiel)), ersetzbar) && ersetzbar)

@@ -1,11 +1,9 @@
 #pragma once
 
 #include <QObject>
-#include <functional>
 #include <optional>
 
 #include "quellen/ergebnisimport.h"
-#include "state/eintraege.h"
 
 class QWidget;
 
@@ -25,9 +23,8 @@ class Dokument;
 class Ergebnisabgleich : public QObject {
     Q_OBJECT
   public:
-    // `eintraege` gives what is typed into the matchday view's boxes, taken into the game first.
-    Ergebnisabgleich(QWidget* fenster, Dialoge& dialoge, Dokument& dokument, const Spielstand& spiel,
-                     std::function<Spieltagseintraege()> eintraege);
+    // The game and what is typed into its boxes (taken into the game first) come from `dokument`.
+    Ergebnisabgleich(QWidget* fenster, Dialoge& dialoge, Dokument& dokument);
 
     void menImpErgebnisse_Click();
 
@@ -40,7 +37,6 @@ class Ergebnisabgleich : public QObject {
     Dialoge& m_dialoge;
     Dokument& m_dokument;
     const Spielstand& m_spiel;
-    std::function<Spieltagseintraege()> m_eintraege;
 
     // The file's names paired with the game's teams, asking for those still open; nothing when the
     // user cancelled.
