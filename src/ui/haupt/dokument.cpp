@@ -97,9 +97,7 @@ void Dokument::oeffneUnter(const std::string& pfad, const QString& titel) {
     const Dateiinhalt inhalt = ladeSpieldatei(pfad);
     aendere([&](Spielstand& s) { oeffneWieGezeigt(s, inhalt); }, {.ersetzt = true});
     setzeDatei(pfad);
-    m_fenster->setWindowModified(false);
-    m_sicherung.stop();
-    m_wiederherstellung.verwerfe();
+    unveraendert();
     merke(anzeigeVon(pfad), titel);
     emit spielGeladen();
 }
@@ -160,9 +158,7 @@ bool Dokument::menSpeichern_Click() {
     const std::string ziel = pfad == vorschlag ? m_spiel.Dateipfad : bytesVon(pfad);
     speichereSpieldatei(ziel, m_spiel);
     setzeDatei(ziel);
-    m_fenster->setWindowModified(false);
-    m_sicherung.stop();
-    m_wiederherstellung.verwerfe();
+    unveraendert();
     merke(pfad, QFileInfo(pfad).fileName());
     return true;
 }
@@ -173,6 +169,12 @@ void Dokument::setzeDatei(const std::string& pfad) {
     const QString titel = titelVon(pfad);
     m_fenster->setWindowTitle((titel.isEmpty() ? QStringLiteral("Neues Tippspiel") : titel) +
                               QStringLiteral("[*] - Kalimbo"));
+}
+
+void Dokument::unveraendert() {
+    m_fenster->setWindowModified(false);
+    m_sicherung.stop();
+    m_wiederherstellung.verwerfe();
 }
 
 void Dokument::merke(const QString& pfad, const QString& titel) {

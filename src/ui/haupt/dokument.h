@@ -94,6 +94,8 @@ class Dokument : public QObject {
     bool darfErsetzen();
     void oeffneUnter(const std::string& pfad, const QString& titel);
     void setzeDatei(const std::string& pfad);
+    // The game is as its file has it: no "*", no recovery copy.
+    void unveraendert();
     void merke(const QString& pfad, const QString& titel);
     void sichereKopie();
 };
