@@ -19,6 +19,17 @@ QString dateiname(const QString& kennung, const QString& endung) {
     return Vorsilbe + kennung + endung;
 }
 
+// The file `endung` (".tip", ".ini", ".lock") of the copy `kennung` in `ordner`.
+QString pfadIn(const QString& ordner, const QString& kennung, const QString& endung) {
+    return QDir(ordner).filePath(dateiname(kennung, endung));
+}
+
+// Removes the copy `kennung`: the details first, so that a half-removed copy no longer counts.
+void entferne(const QString& ordner, const QString& kennung) {
+    QFile::remove(pfadIn(ordner, kennung, QStringLiteral(".ini")));
+    QFile::remove(pfadIn(ordner, kennung, QStringLiteral(".tip")));
+}
+
 std::filesystem::path pfadVon(const QString& pfad) {
     return QFile::encodeName(pfad).toStdString();
 }
@@ -26,7 +37,7 @@ std::filesystem::path pfadVon(const QString& pfad) {
 // A lock on the copy `kennung`, taken at once or not at all. The lock of a window that is gone
 // counts as free however young it is; one of a running window never does.
 std::unique_ptr<QLockFile> sperre(const QString& ordner, const QString& kennung) {
-    auto s = std::make_unique<QLockFile>(QDir(ordner).filePath(dateiname(kennung, QStringLiteral(".lock"))));
+    auto s = std::make_unique<QLockFile>(pfadIn(ordner, kennung, QStringLiteral(".lock")));
     s->setStaleLockTime(0);
     if (!s->tryLock(0)) return nullptr;
     return s;
@@ -43,10 +54,6 @@ Wiederherstellung::Wiederherstellung(QString ordner)
 
 Wiederherstellung::~Wiederherstellung() = default;
 
-QString Wiederherstellung::pfad(const QString& endung) const {
-    return QDir(m_ordner).filePath(dateiname(m_kennung, endung));
-}
-
 // The game first, then what it belongs to: a copy counts only once both are there.
 void Wiederherstellung::sichere(const Dateiinhalt& inhalt, const std::string& spielpfad) {
     QDir().mkpath(m_ordner);
@@ -56,8 +63,8 @@ void Wiederherstellung::sichere(const Dateiinhalt& inhalt, const std::string& sp
                            "“ konnte nicht geschrieben werden.");
     };
     if (!m_sperre) throw scheitern();
-    speichereSpieldatei(pfadVon(pfad(QStringLiteral(".tip"))), inhalt);
-    QSettings angaben(pfad(QStringLiteral(".ini")), QSettings::IniFormat);
+    speichereSpieldatei(pfadVon(pfadIn(m_ordner, m_kennung, QStringLiteral(".tip"))), inhalt);
+    QSettings angaben(pfadIn(m_ordner, m_kennung, QStringLiteral(".ini")), QSettings::IniFormat);
     angaben.setValue(QStringLiteral("pfad"), QByteArray::fromStdString(spielpfad));
     angaben.setValue(QStringLiteral("zeit"), QDateTime::currentDateTime());
     angaben.sync();
@@ -65,8 +72,7 @@ void Wiederherstellung::sichere(const Dateiinhalt& inhalt, const std::string& sp
 }
 
 void Wiederherstellung::verwerfe() {
-    QFile::remove(pfad(QStringLiteral(".ini")));
-    QFile::remove(pfad(QStringLiteral(".tip")));
+    entferne(m_ordner, m_kennung);
 }
 
 std::vector<Wiederherstellung::Fund> Wiederherstellung::verwaiste() const {
@@ -96,12 +102,11 @@ Wiederherstellung::Fund::Fund(QString ordner, QString kennung, std::unique_ptr<Q
     : m_ordner(std::move(ordner)), m_kennung(std::move(kennung)), m_sperre(std::move(sperre)) {}
 
 QString Wiederherstellung::Fund::spielpfad() const {
-    return QDir(m_ordner).filePath(dateiname(m_kennung, QStringLiteral(".tip")));
+    return pfadIn(m_ordner, m_kennung, QStringLiteral(".tip"));
 }
 
 Wiederherstellung::Kopie Wiederherstellung::Fund::lies() const {
-    const QSettings angaben(QDir(m_ordner).filePath(dateiname(m_kennung, QStringLiteral(".ini"))),
-                            QSettings::IniFormat);
+    const QSettings angaben(pfadIn(m_ordner, m_kennung, QStringLiteral(".ini")), QSettings::IniFormat);
     const QDateTime zeit = angaben.value(QStringLiteral("zeit")).toDateTime();
     if (angaben.status() != QSettings::NoError || !zeit.isValid() ||
         !angaben.contains(QStringLiteral("pfad")))
@@ -112,9 +117,7 @@ Wiederherstellung::Kopie Wiederherstellung::Fund::lies() const {
 }
 
 void Wiederherstellung::Fund::verwirf() {
-    QDir dir(m_ordner);
-    dir.remove(dateiname(m_kennung, QStringLiteral(".ini")));
-    dir.remove(dateiname(m_kennung, QStringLiteral(".tip")));
+    entferne(m_ordner, m_kennung);
 }
 
 QString Wiederherstellung::Fund::legeBeiseite() {

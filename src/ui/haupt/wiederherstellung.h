@@ -61,8 +61,6 @@ class Wiederherstellung {
     static QString standardOrdner();
 
   private:
-    QString pfad(const QString& endung) const;
-
     QString m_ordner;
     QString m_kennung;
     std::unique_ptr<QLockFile> m_sperre;  // held from the first copy on
