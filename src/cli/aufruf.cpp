@@ -36,6 +36,12 @@ std::vector<std::string> Aufruf::alle(const std::string& name) const {
     return gegeben;
 }
 
+std::optional<std::string> Aufruf::option(const std::string& name) const {
+    const auto wert = optionen.find(name);
+    if (wert == optionen.end()) return std::nullopt;
+    return wert->second;
+}
+
 void erwarteWerte(const Aufruf& a, std::size_t anzahl) {
     if (a.werte.size() != anzahl) throw Gebrauchsfehler{"Falsche Anzahl von Angaben."};
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <set>
 #include <stdexcept>
 #include <string>
@@ -26,6 +27,8 @@ struct Aufruf {
     bool hat(const std::string& schalterName) const { return schalter.count(schalterName) > 0; }
     // Every value of option `name`, in the order given.
     std::vector<std::string> alle(const std::string& name) const;
+    // The first value of option `name`; none when it is not given.
+    std::optional<std::string> option(const std::string& name) const;
 };
 
 // Splits `argumente`; `mitWert` names the options that take a value, `schalter` the switches.

@@ -40,9 +40,7 @@ int neu(const std::vector<std::string>& argumente, std::ostream&) {
     const Aufruf a = zerlege(argumente, {"--liga"});
     erwarteWerte(a, 2);
     const Quelle quelle = ladeQuelle(a.werte[0]);
-    const auto liga = a.optionen.find("--liga");
-    speichereSpieldatei(a.werte[1],
-                        neuesSpiel(quelle, liga != a.optionen.end() ? liga->second : quelle.liga));
+    speichereSpieldatei(a.werte[1], neuesSpiel(quelle, a.option("--liga").value_or(quelle.liga)));
     return 0;
 }
 
@@ -54,10 +52,10 @@ Spielstand ausgewertet(const std::vector<std::string>& argumente) {
     Auswertungsoptionen optionen;
     optionen.alle = a.hat("--alle");
     optionen.sonntag = a.hat("--sonntag");
-    if (const auto regel = a.optionen.find("--regel"); regel != a.optionen.end()) {
-        if (regel->second.size() != 1 || regel->second[0] < '0' || regel->second[0] > '3')
-            throw Gebrauchsfehler{"--regel erwartet 0, 1, 2 oder 3, nicht „" + regel->second + "“."};
-        optionen.regel = static_cast<i16>(regel->second[0] - '0');
+    if (const auto regel = a.option("--regel")) {
+        if (regel->size() != 1 || (*regel)[0] < '0' || (*regel)[0] > '3')
+            throw Gebrauchsfehler{"--regel erwartet 0, 1, 2 oder 3, nicht „" + *regel + "“."};
+        optionen.regel = static_cast<i16>((*regel)[0] - '0');
     }
     return ladeWieGezeigt(a.werte[0], optionen);
 }

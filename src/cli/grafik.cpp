@@ -33,8 +33,8 @@ int zeigeGrafik(const std::vector<std::string>& argumente, std::ostream& aus) {
     erwarteWerte(a, 1);
     const Spielstand spiel = ladeWieGezeigt(a.werte[0]);
     grafik::Ansicht ansicht = grafik::ersteAnsicht(spiel);
-    if (const auto wahl = a.optionen.find("--ansicht"); wahl != a.optionen.end())
-        ansicht.Darstellung = static_cast<i16>(ganzeZahl(wahl->second, 0, 1, "--ansicht"));
+    if (const auto wahl = a.option("--ansicht"))
+        ansicht.Darstellung = static_cast<i16>(ganzeZahl(*wahl, 0, 1, "--ansicht"));
     if (a.hat("--zahlen")) ansicht.PunkteZeigen.fill(true);
     const grafik::Zeichnung zeichnung = grafik::punktegrafik(spiel, spiel.getAnzSpieltage(), ansicht);
 
