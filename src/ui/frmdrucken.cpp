@@ -79,9 +79,7 @@ frmDrucken::frmDrucken(QWidget* eltern, Dialoge& dialoge) : QWidget(eltern), m_d
 
 void frmDrucken::zeige(const Spielstand& spiel) {
     fuelleSpieltage(spiel, spiel.getAktSpieltag());
-    show();
-    raise();
-    activateWindow();
+    holeNachVorn(this);
 }
 
 void frmDrucken::folge(const Spielstand& spiel, const Aenderung&) {

@@ -141,9 +141,7 @@ void frmGrafik::zeige(const Spielstand& spiel) {
         passeUmschalterAn(spiel);
         Form_Activate();
     });
-    show();
-    raise();
-    activateWindow();
+    holeNachVorn(this);
 }
 
 void frmGrafik::folge(const Spielstand& spiel, const Aenderung&) {

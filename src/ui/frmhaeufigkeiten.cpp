@@ -142,9 +142,7 @@ void frmHaeufigkeiten::erzeugeUebersicht(QWidget* mitte) {
 
 void frmHaeufigkeiten::zeige(const Spielstand& spiel) {
     zeichne(spiel);
-    show();
-    raise();
-    activateWindow();
+    holeNachVorn(this);
 }
 
 void frmHaeufigkeiten::folge(const Spielstand& spiel, const Aenderung&) {

@@ -123,9 +123,7 @@ void frmRegel::zeige(const Spielstand& spiel) {
         setzeFlaeche(lblFarbWahl[k], m_gewaehlt[k]);
         txtNeuModus[k]->setText(QString::number(inKraft.punkte[k]));
     }
-    show();
-    raise();
-    activateWindow();
+    holeNachVorn(this);
 }
 
 void frmRegel::folge(const Spielstand&, const Aenderung& art) {

@@ -137,9 +137,7 @@ void frmSimulation::zeige(const Spielstand& spiel) {
     m_spieler = 0;
     cmbSpielerWahl->setCurrentIndex(-1);
     zeichne(spiel);
-    show();
-    raise();
-    activateWindow();
+    holeNachVorn(this);
 }
 
 void frmSimulation::folge(const Spielstand& spiel, const Aenderung&) {

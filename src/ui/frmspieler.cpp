@@ -94,9 +94,7 @@ void frmSpieler::zeige(const Spielstand& spiel) {
         setzeFlaeche(lblSpielerFarbe[s], m_farben[s]);
     }
     m_farbenBeimZeigen = m_farben;
-    show();
-    raise();
-    activateWindow();
+    holeNachVorn(this);
 }
 
 void frmSpieler::folge(const Spielstand&, const Aenderung& art) {

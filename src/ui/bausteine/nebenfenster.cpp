@@ -13,4 +13,10 @@ void richteNebenfensterEin(QWidget* fenster, const QString& name, const QString&
     QObject::connect(escape, &QShortcut::activated, fenster, &QWidget::close);
 }
 
+void holeNachVorn(QWidget* fenster) {
+    fenster->show();
+    fenster->raise();
+    fenster->activateWindow();
+}
+
 }  // namespace kalimbo::ui
